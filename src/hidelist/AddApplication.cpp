@@ -1,0 +1,46 @@
+#include "hidelist/ApplicationName.h"
+#include "pane/QBSPPreferencePane.h"
+#include "platform/OpenPanel.h"
+#include "platform/PreferencePaneBase.h"
+
+namespace qbsp {
+
+void QBSPPreferencePane::addHideApp(Sender) {
+    const auto panel = services_.openPanels.openPanel();
+    panel->setCanChooseDirectories(false);
+    panel->setAllowsMultipleSelection(false);
+    panel->setAllowedFileTypes({"app"});
+    panel->setDirectoryURL(platform::URL::fileURLWithPath("/Applications"));
+    panel->beginSheetModalForWindow(
+        base_.mainViewWindow(), [self = shared_from_this(), panel](std::int64_t result) {
+            const auto chosen = result == platform::NSOKButton ? panel->chosenURL() : std::nullopt;
+            if (chosen)
+                self->addApplicationAt(*chosen);
+        });
+}
+
+void QBSPPreferencePane::addApplicationAt(const platform::URL& bundle) {
+    const auto name = applicationName(bundle, services_.files, services_.propertyLists, services_.strings);
+    if (!name)
+        return;
+    const std::int64_t present = indexOfAppInList(*name);
+    if (present != HideList::notFound) {
+        showRow(static_cast<std::size_t>(present));
+        return;
+    }
+    // Adding only puts the application on the list, with its flag off; hiding is the user's next click.
+    const auto added = std::make_shared<HideAppInfo>(HideAppInfo{*name, false});
+    // A list that was never loaded takes no row; what follows goes on all the same, so that leaving the pane
+    // writes the empty list down, and from the next selection on there is one to add to.
+    tableArray_.add(added);
+    controls.hideAppsTable->reloadData();
+    showRow(tableArray_.indexOf(added));
+    hideAppsUpdated_ = true;
+}
+
+void QBSPPreferencePane::showRow(std::size_t row) {
+    controls.hideAppsTable->selectRow(row);
+    controls.hideAppsTable->scrollRowToVisible(row);
+}
+
+} // namespace qbsp

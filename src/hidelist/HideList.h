@@ -1,0 +1,66 @@
+#pragma once
+
+#include "hidelist/HideAppInfo.h"
+#include "platform/StringComparison.h"
+#include "platform/Value.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace qbsp {
+
+/// Orders two rows by name, ignoring case.
+[[nodiscard]] std::weak_ordering compareStringUsingSelector(const HideAppInfo& first,
+                                                            const HideAppInfo& second,
+                                                            const platform::StringComparison& strings);
+
+/// The rows of the hide list. The list does not exist until a stored one was loaded; until then it has no
+/// rows and takes none.
+class HideList {
+public:
+    using Records = std::vector<std::shared_ptr<HideAppInfo>>;
+
+    /// What lookups answer for a name that no row bears.
+    static constexpr std::int64_t notFound = -1;
+
+    /// The comparison must outlive the list.
+    explicit HideList(const platform::StringComparison& strings) : strings_(strings) {}
+
+    [[nodiscard]] bool exists() const { return records_.has_value(); }
+
+    /// The rows in their order; none while the list does not exist.
+    [[nodiscard]] const Records& records() const;
+
+    /// The row's record. Throws std::out_of_range for a row outside the list.
+    [[nodiscard]] HideAppInfo& at(std::size_t row) const;
+
+    /// Replaces all rows by those of the stored list, sorted.
+    void load(const platform::Dictionary& hideFlags);
+
+    /// Appends a row and sorts; does nothing while the list does not exist.
+    void add(const std::shared_ptr<HideAppInfo>& record);
+
+    /// Takes all rows away. The list goes on existing when it did.
+    void removeAll();
+
+    /// The first row whose name matches, ignoring case, or notFound.
+    [[nodiscard]] std::int64_t indexOf(std::string_view appName) const;
+
+    /// The row of that very record; 0 while the list does not exist.
+    [[nodiscard]] std::size_t indexOf(const std::shared_ptr<HideAppInfo>& record) const;
+
+    /// The list as it is stored. Of rows with one name the later counts.
+    [[nodiscard]] platform::Dictionary hideFlags() const;
+
+private:
+    void sort();
+
+    const platform::StringComparison& strings_;
+    std::optional<Records> records_;
+};
+
+} // namespace qbsp

@@ -1,0 +1,58 @@
+#include "pane/QBSPPreferencePane.h"
+#include "pane/Texts.h"
+#include "platform/Host.h"
+#include "platform/PreferencePaneBase.h"
+
+namespace qbsp {
+
+namespace {
+
+constexpr platform::NotificationName terminationNotification{
+    "NSWorkspaceDidTerminateApplicationNotification"};
+constexpr platform::ColumnIdentifier nameColumnIdentifier{"1"};
+constexpr platform::ColumnIdentifier hideColumnIdentifier{"2"};
+
+} // namespace
+
+void QBSPPreferencePane::mainViewDidLoad() {
+    locateSorter();
+    showTexts();
+    hideAppsUpdated_ = false;
+    nameColumn(nameColumnIdentifier, texts::application);
+    nameColumn(hideColumnIdentifier, texts::hide);
+    if (services_.host.isSandboxed())
+        hideWhatTheSandboxHasNoUseFor();
+    // The only registration. Leaving the pane ends it, and showing the pane again does not renew it: whoever
+    // looks at the pane again sees the title refreshed by that.
+    services_.workspace.addObserver(weak_from_this(), terminationNotification);
+    base_.mainViewDidLoad();
+}
+
+void QBSPPreferencePane::showTexts() {
+    controls.availabilityLabel->setStringValue(localized(texts::availability));
+    controls.showAtLoginCheckbox->setTitle(localized(texts::startSorterAtLogin));
+    controls.visibilityLabel->setStringValue(localized(texts::visibility));
+    controls.visibilityButton->setTitle(localized(texts::full));
+    controls.descriptionLabel->setStringValue(localized(texts::description));
+    controls.takeNoteLabel->setStringValue(localized(texts::takeNoteHotkey));
+    controls.copySelectionLabel->setStringValue(localized(texts::copySelectionHotkey));
+    controls.attentionLabel->setStringValue(localized(texts::sorterNeedsToRestart));
+    // Nothing shows the notice again: the Sorter takes changes up while it runs.
+    controls.attentionLabel->setHidden(true);
+    controls.hideAppLabel->setStringValue(localized(texts::hideSorterInFullScreen));
+    controls.resetFullscreenSettingsButton->setTitle(localized(texts::resetFullscreenSettings));
+}
+
+void QBSPPreferencePane::nameColumn(platform::ColumnIdentifier identifier, platform::TextKey text) {
+    platform::TableColumn& column = controls.hideAppsTable->tableColumnWithIdentifier(identifier);
+    column.setHeaderStringValue(localized(text));
+}
+
+void QBSPPreferencePane::hideWhatTheSandboxHasNoUseFor() {
+    controls.showAtLoginCheckbox->setHidden(true);
+    controls.availabilityLabel->setHidden(true);
+    controls.copySelectionLabel->setHidden(true);
+    controls.clipHotKeyRecorder->setHidden(true);
+}
+
+} // namespace qbsp

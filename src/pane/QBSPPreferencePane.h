@@ -1,0 +1,221 @@
+#pragma once
+
+#include "hidelist/HideList.h"
+#include "pane/PaneControls.h"
+#include "platform/Services.h"
+#include "platform/URL.h"
+#include "platform/Value.h"
+#include "platform/Workspace.h"
+
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace qbsp::platform {
+class PreferencePaneBase;
+}
+
+namespace qbsp {
+
+struct HotKeyKeys;
+struct SorterIdentity;
+class SorterDomain;
+
+/// The one controller of the plug-in. Its operations are the messages that the host, the view and the
+/// platform send it, on the main thread: initialize, initWithBundle, mainViewDidLoad once, then any number of
+/// willSelect and willUnselect with the user's actions in between. It raises nothing and reports no errors
+/// but in the log and in the login-item alert. Who runs what: each operation lies in the folder of its
+/// subsystem.
+class QBSPPreferencePane final : public platform::RecorderDelegate,
+                                 public platform::TerminationObserver,
+                                 public std::enable_shared_from_this<QBSPPreferencePane> {
+    struct Creation {}; // only initWithBundle can make one
+
+public:
+    using Sender = const platform::View*;
+
+    // --- Life (pane/) ---
+
+    /// Class start-up, before the first pane is made: stores "SorterTabIsInvisible" as NO when it has no
+    /// value.
+    static void initialize(platform::UserDefaults& userDefaults);
+
+    /// Makes a pane; null when the platform refuses. The services and the base must outlive the pane.
+    [[nodiscard]] static std::shared_ptr<QBSPPreferencePane>
+    initWithBundle(const platform::Services& services, platform::PreferencePaneBase& base);
+
+    QBSPPreferencePane(Creation, const platform::Services& services, platform::PreferencePaneBase& base);
+
+    /// Gives the pane up. Asks nothing of the platform: leaving the pane has removed the observer already.
+    ~QBSPPreferencePane() override = default;
+
+    QBSPPreferencePane(const QBSPPreferencePane&) = delete;
+    QBSPPreferencePane& operator=(const QBSPPreferencePane&) = delete;
+    QBSPPreferencePane(QBSPPreferencePane&&) = delete;
+    QBSPPreferencePane& operator=(QBSPPreferencePane&&) = delete;
+
+    /// The view was loaded and its controls connected: finds the Sorter, gives the controls their texts, and
+    /// starts to observe terminations.
+    void mainViewDidLoad();
+
+    // --- Shown and left (settings/) ---
+
+    /// The pane is about to be shown: fills the controls from what is stored. Writes nothing.
+    void willSelect();
+
+    /// The pane is about to be left: commits what waited for it, and ends the observation of terminations.
+    void willUnselect();
+
+    // --- The Sorter process and its login item (sorter/) ---
+
+    /// The start/stop button: stops a Sorter that runs, starts one that does not. Waits for neither.
+    void toggleSorterProcess(Sender sender);
+
+    /// Names the button after what a click would do, and enables it.
+    void updateToggleButtonTitle();
+
+    /// Refreshes the button when the edition's Sorter terminated.
+    void appDied(const platform::Notification& notification) override;
+
+    /// Starts the Sorter: the registrar's in the ordinary build, the embedded one in the sandboxed build.
+    void showSorterApplication();
+
+    /// Stops the Sorter: through the registrar, or the embedded one if this pane launched it.
+    void closeSorterApplication();
+
+    /// True when the embedded Sorter's job is marked on demand.
+    [[nodiscard]] bool appIsPresentInLoginItems() const;
+
+    /// Tells the user, in this message, that the login item could not be changed; returns when answered.
+    void showLoginItemEditFailureAlert(std::string_view message);
+
+    // --- Hot keys (hotkeys/) ---
+
+    [[nodiscard]] bool
+    shortcutRecorderIsKeyCodeAndFlagsTakenReason(const platform::RecorderControl& recorder,
+                                                 std::int64_t keyCode, platform::CocoaFlags flags,
+                                                 std::optional<std::string>* reason) override;
+
+    void shortcutRecorderKeyComboDidChange(const platform::RecorderControl& recorder,
+                                           const platform::KeyCombo& keyCombo) override;
+
+    /// Remembers that a running Sorter must be told when the pane is left.
+    void enableAttentionLabel(Sender sender);
+
+    // --- The full-screen hide list (hidelist/) ---
+
+    /// Replaces the rows by the stored list and reloads the table; does nothing when no list is stored.
+    void loadHideAppData();
+
+    [[nodiscard]] std::int64_t numberOfRowsInTableView(const platform::TableView& tableView) const;
+
+    /// The name for the column "1", 0 or 1 for any other. Throws std::out_of_range outside the list.
+    [[nodiscard]] platform::Value tableViewObjectValueForTableColumnRow(const platform::TableView& tableView,
+                                                                        const platform::TableColumn& column,
+                                                                        std::int64_t row) const;
+
+    /// Sets the row's flag: 1 hides, anything else does not. Does nothing for a column other than "2".
+    void tableViewSetObjectValueForTableColumnRow(const platform::TableView& tableView,
+                                                  const platform::Value& value,
+                                                  const platform::TableColumn& column, std::int32_t row);
+
+    /// The row of that name, ignoring case; -1 when there is none.
+    [[nodiscard]] std::int64_t indexOfAppInList(std::string_view appName) const;
+
+    /// The add button: lets the user choose an application in a sheet, and puts it on the list unless it is
+    /// there. Returns while the sheet is open.
+    void addHideApp(Sender sender);
+
+    /// The reset button: deleteFullScreenSettings.
+    void resetFullscreenSettings(Sender sender);
+
+    /// Puts the stored list back to the Sorter's factory list, tells a running Sorter, and shows the result.
+    void deleteFullScreenSettings();
+
+    // --- Properties and fields ---
+
+    [[nodiscard]] std::optional<platform::URL> sorterAppURL() const;
+    void setSorterAppURL(std::optional<platform::URL> url);
+
+    /// The host's registrar, which the pane does not own; null when there is none.
+    [[nodiscard]] QBSPSorterControl* loginItemRegistrar() const { return loginItemRegistrar_.get(); }
+
+    void setLoginItemRegistrar(QBSPSorterControl* registrar);
+
+    [[nodiscard]] bool shouldRestartSorter() const { return shouldRestartSorter_; }
+
+    [[nodiscard]] bool deleteFullScreenSettingsInSorter() const { return deleteFullScreenSettingsInSorter_; }
+
+    [[nodiscard]] bool isSorterProApp() const { return isSorterProApp_; }
+
+    [[nodiscard]] const HideList& tableArray() const { return tableArray_; }
+
+    [[nodiscard]] bool hideAppsUpdated() const { return hideAppsUpdated_; }
+
+    [[nodiscard]] bool hasSandboxedSorterApp() const { return sandboxedSorterApp_ != nullptr; }
+
+    /// Asks for a reset of the full-screen settings right after the Sorter was next stopped from the pane. No
+    /// operation of the pane asks for it; it is there for a caller who does.
+    void raiseDeleteFullScreenSettingsInSorter() { deleteFullScreenSettingsInSorter_ = true; }
+
+    PaneControls controls;
+
+private:
+    // pane/
+    void findRegistrar();
+    void registerEmbeddedSorter();
+    void locateSorter();
+    void showTexts();
+    void nameColumn(platform::ColumnIdentifier identifier, platform::TextKey text);
+    void hideWhatTheSandboxHasNoUseFor();
+    [[nodiscard]] std::string localized(platform::TextKey text) const;
+    [[nodiscard]] platform::URL embeddedSorterURL() const;
+    [[nodiscard]] std::optional<platform::URL> sorterURLBesideRegistrar() const;
+    [[nodiscard]] std::optional<std::string> sorterPathBesideRegistrar() const;
+
+    // settings/
+    void showLoginItemState();
+    void applyLoginItemCheckbox();
+    void reportLoginItemFailure(platform::TextKey message, platform::ButtonState stateAfterwards);
+    void announceChangedHotKeys();
+    void saveHideList();
+    void tellRunningSorterOfHideList();
+    void postToSorter(platform::NotificationName name, const std::optional<platform::Dictionary>& userInfo);
+    [[nodiscard]] SorterDomain sorterDomain() const;
+
+    // sorter/
+    [[nodiscard]] const SorterIdentity& editionSorter() const;
+    [[nodiscard]] platform::BundleIdentifier currentIdentifier() const;
+    [[nodiscard]] bool editionSorterIsRunning() const;
+    [[nodiscard]] bool switchEmbeddedSorter();
+    [[nodiscard]] bool switchSorterThroughRegistrar();
+    void launchEmbeddedSorter();
+    void terminateEmbeddedSorter();
+
+    // hotkeys/
+    void loadHotKey(const HotKeyKeys& keys, platform::RecorderControl& recorder);
+    void storeHotKey(const HotKeyKeys& keys, const platform::KeyCombo& keyCombo);
+    void mirrorClipHotKey(const platform::KeyCombo& keyCombo);
+
+    // hidelist/
+    void addApplicationAt(const platform::URL& bundle);
+    void showRow(std::size_t row);
+
+    platform::Services services_;
+    platform::PreferencePaneBase& base_;
+
+    mutable std::mutex sorterAppURLLock_;
+    std::optional<platform::URL> sorterAppURL_;
+    platform::Outlet<QBSPSorterControl> loginItemRegistrar_;
+    bool shouldRestartSorter_ = false;
+    bool deleteFullScreenSettingsInSorter_ = false;
+    bool isSorterProApp_ = false;
+    HideList tableArray_;
+    bool hideAppsUpdated_ = false;
+    std::shared_ptr<platform::RunningApplication> sandboxedSorterApp_;
+};
+
+} // namespace qbsp

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/Controls.h"
+#include "platform/Outlet.h"
+#include "platform/QBSPSorterControl.h"
+
+namespace qbsp::platform {
+
+template <>
+TextField& nullObject();
+template <>
+Button& nullObject();
+template <>
+RecorderControl& nullObject();
+template <>
+TableColumn& nullObject();
+template <>
+TableView& nullObject();
+template <>
+QBSPSorterControl& nullObject();
+
+} // namespace qbsp::platform

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace qbsp::platform {
+
+class Value;
+
+using Array = std::vector<Value>;
+using Dictionary = std::map<std::string, Value>;
+
+/// A moment, in seconds since the first of January 2001, 0:00 UTC.
+struct Date {
+    double secondsSinceReferenceDate = 0;
+    friend bool operator==(const Date&, const Date&) = default;
+};
+
+using Data = std::vector<std::byte>;
+
+/// A property-list value, or no value. It keeps the kind it was made with, so that what nobody edited is
+/// written back as it was read.
+class Value {
+public:
+    using Kind = std::variant<std::monostate, bool, std::int32_t, std::uint32_t, std::int64_t, std::uint64_t,
+                              double, std::string, Date, Data, Array, Dictionary>;
+
+    Value() = default;
+
+    template <class T>
+
+    requires(!std::same_as<std::remove_cvref_t<T>, Value> && std::constructible_from<Kind, T>) Value(T&& kind)
+        : kind_(std::forward<T>(kind)) {} // NOLINT(google-explicit-constructor): a literal is a value
+
+    [[nodiscard]] const Kind& kind() const { return kind_; }
+
+    [[nodiscard]] bool exists() const { return !std::holds_alternative<std::monostate>(kind_); }
+
+    /// The number as 32 bits: a Boolean is 0 or 1, a real loses its fraction, a wider number its high bits; a
+    /// string's leading digits, held within 32 bits. Any other kind, and no value, is 0.
+    [[nodiscard]] std::int32_t intValue() const;
+
+    /// The bits of intValue(), unsigned.
+    [[nodiscard]] std::uint32_t unsignedIntValue() const;
+
+    /// A number is true unless it is 0; a string when it begins with Y, y, T, t or a number other than 0. Any
+    /// other kind, and no value, is false.
+    [[nodiscard]] bool boolValue() const;
+
+    /// The value as this kind, or null when it is of another.
+    template <class T>
+    [[nodiscard]] const T* as() const {
+        return std::get_if<T>(&kind_);
+    }
+
+    friend bool operator==(const Value&, const Value&) = default;
+
+private:
+    Kind kind_;
+};
+
+/// The entry of that name; no value when there is none.
+[[nodiscard]] Value entry(const Dictionary& dictionary, const std::string& name);
+
+/// The entry of that name when it is a string.
+[[nodiscard]] std::optional<std::string> stringEntry(const Dictionary& dictionary, const std::string& name);
+
+} // namespace qbsp::platform

@@ -1,0 +1,29 @@
+#include "pane/QBSPPreferencePane.h"
+#include "platform/Host.h"
+#include "platform/PreferencePaneBase.h"
+#include "platform/QBSPSorterControl.h"
+#include "settings/SorterStores.h"
+
+namespace qbsp {
+
+void QBSPPreferencePane::willSelect() {
+    loadHotKey(clipHotKeyKeys, *controls.clipHotKeyRecorder);
+    controls.clipHotKeyRecorder->setDelegate(*this);
+    loadHotKey(noteHotKeyKeys, *controls.noteHotKeyRecorder);
+    controls.noteHotKeyRecorder->setDelegate(*this);
+    showLoginItemState();
+    updateToggleButtonTitle();
+    loadHideAppData();
+    base_.willSelect();
+}
+
+void QBSPPreferencePane::showLoginItemState() {
+    // In the sandboxed build too, where the check box is hidden: it says what the system says.
+    const bool startsAtLogin = services_.host.isSandboxed()
+                                   ? appIsPresentInLoginItems()
+                                   : loginItemRegistrar_->applicationIsRegistered(sorterAppURL());
+    controls.showAtLoginCheckbox->setState(startsAtLogin ? platform::ButtonState::on
+                                                         : platform::ButtonState::off);
+}
+
+} // namespace qbsp
