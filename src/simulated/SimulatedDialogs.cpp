@@ -1,0 +1,101 @@
+#include "simulated/SimulatedDialogs.h"
+
+#include "simulated/Json.h"
+
+#include <tuple>
+#include <utility>
+
+namespace qbsp::simulated {
+
+namespace {
+
+class SimulatedAlert final : public platform::Alert {
+public:
+    SimulatedAlert(const World& world, Transcript& transcript) : world_(world), transcript_(transcript) {}
+
+    void setAlertStyle(platform::AlertStyle style) override {
+        tell("NSAlert setAlertStyle:", std::to_string(static_cast<unsigned>(style)));
+    }
+
+    void setMessageText(std::string_view text) override { tell("NSAlert setMessageText:", jsonText(text)); }
+
+    void setInformativeText(std::string_view text) override {
+        tell("NSAlert setInformativeText:", jsonText(text));
+    }
+
+    void addButtonWithTitle(std::string_view title) override {
+        tell("NSAlert addButtonWithTitle:", jsonText(title));
+    }
+
+    std::int64_t runModal() override {
+        constexpr std::int64_t stopped = -1000;
+        const std::int64_t answer = transcript_.fails() ? stopped : world_.alertAnswer;
+        transcript_.answered("NSAlert runModal", {}, std::to_string(answer));
+        return answer;
+    }
+
+private:
+    void tell(std::string_view operation, const std::string& argument) {
+        std::ignore = transcript_.fails();
+        transcript_.told(operation, {argument});
+    }
+
+    const World& world_;
+    Transcript& transcript_;
+};
+
+} // namespace
+
+class SimulatedOpenPanel final : public platform::OpenPanel {
+public:
+    explicit SimulatedOpenPanel(SimulatedOpenPanels& panels) : panels_(panels) {}
+
+    void setCanChooseDirectories(bool canChoose) override {
+        tell("NSOpenPanel setCanChooseDirectories:", {json(canChoose)});
+    }
+
+    void setAllowsMultipleSelection(bool allows) override {
+        tell("NSOpenPanel setAllowsMultipleSelection:", {json(allows)});
+    }
+
+    void setAllowedFileTypes(const std::vector<std::string>& extensions) override {
+        const platform::Array types(extensions.begin(), extensions.end());
+        tell("NSOpenPanel setAllowedFileTypes:", {json(types)});
+    }
+
+    void setDirectoryURL(const platform::URL& folder) override {
+        tell("NSOpenPanel setDirectoryURL:", {jsonText(folder.path())});
+    }
+
+    void beginSheetModalForWindow(platform::Window*,
+                                  std::function<void(std::int64_t result)> completionHandler) override {
+        tell("NSOpenPanel beginSheetModalForWindow:completionHandler:", {});
+        panels_.handler_ = std::move(completionHandler);
+    }
+
+    std::optional<platform::URL> chosenURL() const override { return panels_.chosen_; }
+
+private:
+    void tell(std::string_view operation, std::initializer_list<std::string> arguments) {
+        std::ignore = panels_.transcript_.fails();
+        panels_.transcript_.told(operation, arguments);
+    }
+
+    SimulatedOpenPanels& panels_;
+};
+
+std::unique_ptr<platform::Alert> SimulatedAlerts::makeAlert() {
+    return std::make_unique<SimulatedAlert>(world_, transcript_);
+}
+
+std::shared_ptr<platform::OpenPanel> SimulatedOpenPanels::openPanel() {
+    return std::make_shared<SimulatedOpenPanel>(*this);
+}
+
+void SimulatedOpenPanels::endSheet(std::int64_t result, const std::optional<std::string>& chosenPath) {
+    chosen_ = chosenPath ? std::optional(platform::URL::fileURLWithPath(*chosenPath)) : std::nullopt;
+    const CompletionHandler handler = std::exchange(handler_, nullptr);
+    handler(result);
+}
+
+} // namespace qbsp::simulated

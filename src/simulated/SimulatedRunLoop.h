@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/RunLoop.h"
+#include "simulated/Decimal.h"
+#include "simulated/Transcript.h"
+
+#include <functional>
+#include <map>
+
+namespace qbsp::simulated {
+
+/// The main run loop, whose clock stands still until it is told to run on.
+class SimulatedRunLoop final : public platform::RunLoop {
+public:
+    explicit SimulatedRunLoop(Transcript& transcript) : transcript_(transcript) {}
+
+    void performSelectorAfterDelay(platform::Selector selector, std::function<void()> message,
+                                   platform::Seconds delay) override;
+
+    /// Lets that many seconds pass and sends the messages that fall due, the very end included, in order.
+    void runFor(const Decimal& seconds);
+
+private:
+    Transcript& transcript_;
+    Decimal now_;
+    std::multimap<Decimal, std::function<void()>> waiting_; ///< by the moment they fall due
+};
+
+} // namespace qbsp::simulated

@@ -1,0 +1,44 @@
+#include "simulated/Transcript.h"
+
+#include <utility>
+
+namespace qbsp::simulated {
+
+namespace {
+
+std::string line(std::string_view operation, std::initializer_list<std::string> arguments) {
+    std::string text = std::string(operation) + "(";
+    std::string_view separator;
+    for (const std::string& argument : arguments) {
+        text.append(separator).append(argument);
+        separator = ", ";
+    }
+    return text + ")";
+}
+
+} // namespace
+
+bool Transcript::fails() {
+    ++operations_;
+    return failing_ == operations_;
+}
+
+void Transcript::told(std::string_view operation, std::initializer_list<std::string> arguments) {
+    note(line(operation, arguments));
+}
+
+void Transcript::answered(std::string_view operation, std::initializer_list<std::string> arguments,
+                          std::string_view answer) {
+    note(line(operation, arguments).append(" -> ").append(answer));
+}
+
+void Transcript::failOperation(std::size_t number) {
+    operations_ = 0;
+    failing_ = number;
+}
+
+std::vector<std::string> Transcript::take() {
+    return std::exchange(lines_, {});
+}
+
+} // namespace qbsp::simulated
