@@ -30,7 +30,7 @@ platform::Value QBSPPreferencePane::tableViewObjectValueForTableColumnRow(const 
     const HideAppInfo& info = tableArray_.at(static_cast<std::size_t>(row));
     if (wantsName)
         return info.appName;
-    return std::int32_t{info.hideApp.boolValue()};
+    return static_cast<std::int32_t>(info.hideApp.boolValue());
 }
 
 void QBSPPreferencePane::tableViewSetObjectValueForTableColumnRow(const platform::TableView&,

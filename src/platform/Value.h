@@ -33,10 +33,11 @@ public:
 
     Value() = default;
 
+    /// A value of any of the kinds; the constraint leaves copying and moving a Value alone.
     template <class T>
 
     requires(!std::same_as<std::remove_cvref_t<T>, Value> && std::constructible_from<Kind, T>) Value(T&& kind)
-        : kind_(std::forward<T>(kind)) {} // NOLINT(google-explicit-constructor): a literal is a value
+        : kind_(std::forward<T>(kind)) {} // NOLINT(bugprone-forwarding-reference-overload)
 
     [[nodiscard]] const Kind& kind() const { return kind_; }
 

@@ -89,7 +89,7 @@ std::string Arguments::word() {
 }
 
 std::string Arguments::oneOf(const std::vector<std::string_view>& words) {
-    const std::string next = word();
+    std::string next = word();
     if (std::ranges::find(words, next) == words.end())
         throw ScenarioError("an unexpected word: " + jsonText(next));
     return next;

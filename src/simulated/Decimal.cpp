@@ -49,7 +49,7 @@ std::optional<Decimal> Decimal::parse(std::string_view digits) {
 
 Decimal Decimal::of(double number) {
     std::array<char, 512> buffer{};
-    const auto end =
+    const char* const end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed).ptr;
     return parse({buffer.data(), static_cast<std::size_t>(end - buffer.data())}).value();
 }

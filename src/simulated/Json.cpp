@@ -33,7 +33,7 @@ struct Decimal {
 
 Decimal shortestDecimal(double number) {
     std::array<char, 64> buffer{};
-    const auto end =
+    const char* const end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific)
             .ptr;
     const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));

@@ -38,11 +38,10 @@ private:
 /// The recorder that a scenario names: one of the pane's two, or another where it is neither or not
 /// connected.
 const platform::RecorderControl& recorder(const PaneSession& session, const std::string& name) {
-    static auto& other = platform::nullObject<platform::RecorderControl>();
     const PaneControls& controls = session.pane().controls;
     if (name == "clip")
         return *controls.clipHotKeyRecorder;
-    return name == "note" ? *controls.noteHotKeyRecorder : other;
+    return name == "note" ? *controls.noteHotKeyRecorder : platform::nullObject<platform::RecorderControl>();
 }
 
 std::string recorderName(Arguments& arguments) {

@@ -22,8 +22,7 @@ std::optional<std::string>
 SimulatedFileManager::createDirectoryAtURL(const platform::URL& url,
                                            platform::IntermediateDirectories intermediates) {
     const bool failed = transcript_.fails();
-    const auto error =
-        failed ? std::optional<std::string>("The folder could not be made.") : world_.folderError;
+    auto error = failed ? std::optional<std::string>("The folder could not be made.") : world_.folderError;
     if (!error)
         world_.disk.makeFolder(url.path());
     transcript_.answered(

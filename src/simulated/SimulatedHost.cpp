@@ -82,7 +82,7 @@ SimulatedBundles::executablePathOfBundleForClassOf(const QBSPSorterControl* regi
     const bool failed = transcript_.fails();
     const auto path =
         registrar != nullptr ? std::optional(world_.registrarExecutable) : world_.noClassExecutable;
-    const auto answer = failed ? std::nullopt : path;
+    auto answer = failed ? std::nullopt : path;
     transcript_.answered("NSBundle executablePath", {registrar != nullptr ? jsonText("registrar") : "null"},
                          jsonTextOrNull(answer));
     return answer;

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <iterator>
 #include <optional>
+#include <span>
 #include <sstream>
 #include <string>
 
@@ -48,11 +49,12 @@ int play(const std::string& file, const std::string& scenario) {
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
-    if (argc != 2) {
+    const std::span arguments(argv, static_cast<std::size_t>(argc));
+    if (arguments.size() != 2) {
         std::cerr << "usage: pane-replay FILE (or - for standard input)\n";
         return wrong;
     }
-    const std::string file = argv[1];
+    const std::string file = arguments[1];
     const auto scenario = contentsOf(file);
     if (!scenario) {
         std::cerr << "pane-replay: cannot read " << file << '\n';

@@ -1,0 +1,58 @@
+#!/usr/bin/env bash
+# setup.sh PURPOSE...: installs the Debian packages that the purposes need and the machine lacks; says so first.
+# Purposes: core (the portable rooms), application (the plug-in and what it runs in), tests, coverage.
+set -euo pipefail
+
+packages_for() {
+    case $1 in
+    core) echo cmake ninja-build g++ nlohmann-json3-dev googletest python3 ;;
+    application)
+        echo cmake ninja-build g++ gobjc++ nlohmann-json3-dev \
+            libgnustep-gui-dev libpreferencepanes-dev gnustep-gui-runtime gnustep-base-runtime \
+            libx11-dev fonts-dejavu-core xvfb xauth openbox x11-utils xdotool imagemagick
+        ;;
+    tests)
+        echo googletest python3 clang clang-format clang-tidy g++-multilib \
+            libxtst-dev desktop-file-utils systempreferences.app
+        ;;
+    coverage) echo gcovr ;;
+    *)
+        echo "setup.sh: unknown purpose '$1'" >&2
+        exit 2
+        ;;
+    esac
+}
+
+is_installed() {
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+missing=()
+for purpose in "$@"; do
+    for package in $(packages_for "$purpose"); do
+        is_installed "$package" || missing+=("$package")
+    done
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+        echo "These Debian packages are missing, and installing them takes root or sudo: ${missing[*]}" >&2
+        exit 1
+    }
+    as_root=(sudo)
+fi
+
+echo "Installing Debian packages: ${missing[*]}"
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+install_missing() {
+    "${as_root[@]}" apt-get update &&
+        "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}"
+}
+install_missing >"$log" 2>&1 || {
+    cat "$log" >&2
+    echo "The packages could not be installed." >&2
+    exit 1
+}

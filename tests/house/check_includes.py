@@ -1,0 +1,68 @@
+#!/usr/bin/env python3
+"""check_includes.py SRC: holds every include of the rooms against what the house allows.
+
+platform/ and the five subsystems may include the standard library and each other's offered headers, and nothing
+of the system; no file may leave its room by a path. Prints each wrong include and exits with 1 if there is one.
+"""
+
+import pathlib
+import re
+import sys
+
+STANDARD = set(
+    """algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes
+    climits clocale cmath codecvt compare complex concepts condition_variable coroutine csetjmp csignal cstdarg
+    cstddef cstdint cstdio cstdlib cstring ctime cuchar cwchar cwctype deque exception execution expected
+    filesystem format forward_list fstream functional future initializer_list iomanip ios iosfwd iostream istream
+    iterator latch limits list locale map memory memory_resource mutex new numbers numeric optional ostream queue
+    random ranges ratio regex scoped_allocator semaphore set shared_mutex source_location span sstream stack
+    stdexcept stop_token streambuf string string_view strstream syncstream system_error thread tuple type_traits
+    typeindex typeinfo unordered_map unordered_set utility valarray variant vector version""".split()
+)
+
+# What a room may include of others. Of the controller's room the header and what stands on it are offered.
+USES = {
+    "platform": [],
+    "sorter": ["platform", "pane"],
+    "settings": ["platform", "pane", "sorter"],
+    "hotkeys": ["platform", "pane", "settings"],
+    "hidelist": ["platform", "pane", "settings"],
+    "pane": ["platform", "hidelist", "settings", "sorter"],
+    "simulated": ["platform", "pane", "sorter"],
+    "appkit": ["platform", "pane"],
+}
+PORTABLE = {"platform", "sorter", "settings", "hotkeys", "hidelist", "pane"}
+INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s*([<"])([^>"]+)[>"]')
+
+
+def complaint(room, kind, name):
+    if kind == "<":
+        outside = room in PORTABLE and name not in STANDARD
+        return f"<{name}> is not of the standard library" if outside else None
+    if ".." in pathlib.PurePath(name).parts:
+        return f'"{name}" leaves its room by a path'
+    other = pathlib.PurePath(name).parts[0]
+    allowed = other == room or other in USES[room] or other not in USES
+    return None if allowed else f'"{name}": {room} may not use {other}'
+
+
+def main():
+    source = pathlib.Path(sys.argv[1])
+    wrong = 0
+    for room in USES:
+        files = [f for f in sorted((source / room).rglob("*")) if f.suffix in {".h", ".cpp", ".mm", ".m"}]
+        if not files:
+            print(f"{room}: no files")
+            wrong += 1
+        for file in files:
+            for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
+                match = INCLUDE.match(line)
+                problem = match and complaint(room, *match.groups())
+                if problem:
+                    print(f"{file}:{number}: {problem}")
+                    wrong += 1
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
