@@ -19,9 +19,10 @@ build_application() {
     build_folder "$root/build"
 }
 
-# The portable core with its tests, instrumented.
+# The portable core with its tests, instrumented. Sources are compiled in batches: these builds are made from scratch
+# more often than they are edited.
 build_core() { # NAME [CMAKE OPTION...]
     local name=$1
     shift
-    build_folder "$root/build/$name" -DSORTERPANE_CORE_ONLY=ON "$@"
+    build_folder "$root/build/$name" -DSORTERPANE_CORE_ONLY=ON -DCMAKE_UNITY_BUILD=ON "$@"
 }

@@ -5,15 +5,15 @@ set -euo pipefail
 
 packages_for() {
     case $1 in
-    core) echo cmake ninja-build g++ nlohmann-json3-dev googletest python3 ;;
+    core) echo cmake ninja-build gcc g++ nlohmann-json3-dev googletest python3 ;;
     application)
         echo cmake ninja-build g++ gobjc++ nlohmann-json3-dev \
             libgnustep-gui-dev libpreferencepanes-dev gnustep-gui-runtime gnustep-base-runtime \
-            libx11-dev fonts-dejavu-core xvfb xauth openbox x11-utils xdotool imagemagick
+            libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb xauth openbox x11-utils xdotool imagemagick
         ;;
     tests)
         echo googletest python3 clang clang-format clang-tidy g++-multilib \
-            libxtst-dev desktop-file-utils systempreferences.app
+            x11-xkb-utils libxtst-dev desktop-file-utils systempreferences.app
         ;;
     coverage) echo gcovr ;;
     *)

@@ -26,19 +26,19 @@ std::string joined(const std::vector<std::string>& parts, char open, char close)
 }
 
 /// The digits of the shortest decimal that reads back the same, and the power of ten of the first.
-struct Decimal {
+struct ShortestDecimal {
     std::string digits;
     int exponent = 0;
 };
 
-Decimal shortestDecimal(double number) {
+ShortestDecimal shortestDecimal(double number) {
     std::array<char, 64> buffer{};
     const char* const end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::scientific)
             .ptr;
     const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
     const auto e = text.find('e');
-    Decimal decimal;
+    ShortestDecimal decimal;
     for (const char character : text.substr(0, e))
         if (character != '.')
             decimal.digits += character;
@@ -46,7 +46,7 @@ Decimal shortestDecimal(double number) {
     return decimal;
 }
 
-std::string withExponent(const Decimal& decimal) {
+std::string withExponent(const ShortestDecimal& decimal) {
     std::string text = decimal.digits.substr(0, 1);
     if (decimal.digits.size() > 1)
         text += "." + decimal.digits.substr(1);
@@ -54,7 +54,7 @@ std::string withExponent(const Decimal& decimal) {
     return text + (decimal.exponent < 0 ? "e-" : "e+") + (power.size() < 2 ? "0" : "") + power;
 }
 
-std::string withPoint(const Decimal& decimal) {
+std::string withPoint(const ShortestDecimal& decimal) {
     if (decimal.exponent < 0)
         return "0." + std::string(static_cast<std::size_t>(-decimal.exponent - 1), '0') + decimal.digits;
     const auto whole = static_cast<std::size_t>(decimal.exponent) + 1;
@@ -68,7 +68,7 @@ std::string realText(double number) {
     constexpr int lowestWithPoint = -4;
     constexpr int lowestLargeWithExponent = 16;
     const std::string sign = std::signbit(number) ? "-" : "";
-    const Decimal decimal = shortestDecimal(std::fabs(number));
+    const ShortestDecimal decimal = shortestDecimal(std::fabs(number));
     const bool plain = decimal.exponent >= lowestWithPoint && decimal.exponent < lowestLargeWithExponent;
     return sign + (plain ? withPoint(decimal) : withExponent(decimal));
 }

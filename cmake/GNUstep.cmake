@@ -1,0 +1,32 @@
+# Finds GNUstep and defines `gnustep_gui`, which carries the flags and libraries of its Foundation and AppKit.
+# GNUstep_FOUND tells whether it is there. Include this before enabling Objective-C: g++ compiles it whatever
+# compiler the core is built with, because GNUstep on this runtime needs GCC's exceptions.
+
+find_program(GNUSTEP_CONFIG gnustep-config)
+find_library(GNUSTEP_GUI_LIBRARY gnustep-gui)
+find_library(PREFERENCE_PANES_LIBRARY PreferencePanes)
+set(GNUstep_FOUND FALSE)
+if(NOT GNUSTEP_CONFIG OR NOT GNUSTEP_GUI_LIBRARY OR NOT PREFERENCE_PANES_LIBRARY)
+    return()
+endif()
+set(GNUstep_FOUND TRUE)
+
+find_program(CMAKE_OBJC_COMPILER gcc REQUIRED)
+find_program(CMAKE_OBJCXX_COMPILER g++ REQUIRED)
+
+execute_process(COMMAND ${GNUSTEP_CONFIG} --objc-flags OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE)
+execute_process(COMMAND ${GNUSTEP_CONFIG} --gui-libs OUTPUT_VARIABLE libraries OUTPUT_STRIP_TRAILING_WHITESPACE)
+separate_arguments(flags)
+separate_arguments(libraries)
+
+# Dependency files, optimisation and warnings are CMake's to decide; GNUstep's headers count as the system's.
+list(FILTER flags EXCLUDE REGEX "^-(MMD|MP|g|O2|Wall|I.*)$")
+list(FILTER libraries INCLUDE REGEX "^-(l|L/usr|shared-libgcc|pthread)")
+
+add_library(gnustep_gui INTERFACE)
+target_compile_options(gnustep_gui INTERFACE
+    "$<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:${flags}>"
+    $<$<COMPILE_LANGUAGE:OBJC>:-std=c11>
+    "$<$<COMPILE_LANGUAGE:OBJCXX>:-std=c++20;-fobjc-call-cxx-cdtors>")
+target_include_directories(gnustep_gui SYSTEM INTERFACE /usr/include/GNUstep)
+target_link_libraries(gnustep_gui INTERFACE ${libraries})
