@@ -1,0 +1,257 @@
+#import "appkit/recorder/QBSPRecorderView.h"
+
+#include "appkit/Retained.h"
+#include "appkit/recorder/KeyComboText.h"
+#include "appkit/recorder/Keyboard.h"
+#include "appkit/recorder/RecorderDrawing.h"
+#include "appkit/recorder/RecorderLogic.h"
+#include "appkit/recorder/RecorderTexts.h"
+#include "appkit/recorder/ViewListener.h"
+
+using namespace qbsp::recorder;
+using qbsp::appkit::Retained;
+
+@interface QBSPRecorderView ()
+- (void)watch:(SEL)selector name:(NSString*)name of:(NSWindow*)window;
+- (void)stopListening;
+- (BOOL)handleKeyDown:(NSEvent*)event;
+- (BOOL)isOnClearButton:(NSEvent*)event;
+- (NSString*)comboText:(std::string (*)(const KeyCombo&, const LayoutLabel&))inForm;
+@end
+
+struct QBSPRecorderParts {
+    explicit QBSPRecorderParts(QBSPRecorderView* view) : listener(view) {}
+
+    ViewListener listener;
+    RecorderLogic logic{listener};
+    std::unique_ptr<Keyboard> keyboard = makeKeyboard();
+    Retained<NSString*> accessibilityLabel;
+    bool isClearPressed = false;
+
+    [[nodiscard]] LayoutLabel layoutLabel() const {
+        return [this](VirtualKey key) { return keyboard->label(key); };
+    }
+};
+
+@implementation QBSPRecorderView
+
+- (id)initWithFrame:(NSRect)frame {
+    if ((self = [super initWithFrame:frame]) != nil)
+        _parts = new QBSPRecorderParts(self);
+    return self;
+}
+
+- (void)dealloc {
+    [[NSNotificationCenter defaultCenter] removeObserver:self];
+    delete _parts;
+    [super dealloc];
+}
+
+#pragma mark - What it holds
+
+- (void)setKeyCode:(NSInteger)code flags:(NSUInteger)cocoaFlags {
+    _parts->logic.setCombo({.flags = cocoaFlags, .code = code});
+}
+
+- (NSInteger)keyCode {
+    return static_cast<NSInteger>(_parts->logic.combo().code);
+}
+
+- (NSUInteger)flags {
+    return static_cast<NSUInteger>(_parts->logic.combo().flags);
+}
+
+- (BOOL)isListening {
+    return _parts->logic.isArmed();
+}
+
+- (NSString*)stringValue {
+    if (_parts->logic.isArmed())
+        return listeningText();
+    if (!holdsKey(_parts->logic.combo()))
+        return emptyText();
+    return canDrawSymbols() ? [self comboText:comboInSymbols] : [self comboText:comboInWords];
+}
+
+- (void)setDelegate:(id<QBSPRecorderViewDelegate>)delegate {
+    _parts->listener.setDelegate(delegate);
+}
+
+- (id<QBSPRecorderViewDelegate>)delegate {
+    return _parts->listener.delegate();
+}
+
+- (void)setReasonField:(NSTextField*)field {
+    _parts->listener.reasons().setField(field);
+}
+
+- (NSTextField*)reasonField {
+    return _parts->listener.reasons().field();
+}
+
+#pragma mark - Focus
+
+- (BOOL)acceptsFirstResponder {
+    return YES;
+}
+
+- (BOOL)becomeFirstResponder {
+    [self setNeedsDisplay:YES];
+    return YES;
+}
+
+- (BOOL)resignFirstResponder {
+    [self stopListening];
+    return YES;
+}
+
+- (void)viewWillMoveToWindow:(NSWindow*)window {
+    [self stopListening];
+    [self watch:@selector(windowDidResignKey:) name:NSWindowDidResignKeyNotification of:window];
+    [self watch:@selector(windowDidBecomeKey:) name:NSWindowDidBecomeKeyNotification of:window];
+    [super viewWillMoveToWindow:window];
+}
+
+- (void)watch:(SEL)selector name:(NSString*)name of:(NSWindow*)window {
+    NSNotificationCenter* center = [NSNotificationCenter defaultCenter];
+    [center removeObserver:self name:name object:nil];
+    if (window != nil)
+        [center addObserver:self selector:selector name:name object:window];
+}
+
+- (void)windowDidResignKey:(NSNotification*)__attribute__((unused))notification {
+    [self stopListening];
+}
+
+- (void)windowDidBecomeKey:(NSNotification*)__attribute__((unused))notification {
+    // The focus shows again, and the keyboard layout may be another one by now.
+    [self setNeedsDisplay:YES];
+}
+
+- (void)stopListening {
+    _parts->logic.disarm();
+    _parts->keyboard->forgetHeldKeys();
+    [self setNeedsDisplay:YES];
+}
+
+#pragma mark - Keys
+
+- (BOOL)performKeyEquivalent:(NSEvent*)event {
+    // Whatever would act on this key elsewhere must not while it may be the one to record.
+    if (![self isListening])
+        return [super performKeyEquivalent:event];
+    [self handleKeyDown:event];
+    return YES;
+}
+
+- (void)keyDown:(NSEvent*)event {
+    if (![self handleKeyDown:event])
+        [super keyDown:event];
+}
+
+- (void)keyUp:(NSEvent*)event {
+    _parts->keyboard->observe(event);
+    [super keyUp:event];
+}
+
+- (void)flagsChanged:(NSEvent*)event {
+    _parts->keyboard->observe(event);
+    [super flagsChanged:event];
+}
+
+- (BOOL)handleKeyDown:(NSEvent*)event {
+    const std::optional<KeyPress> press = _parts->keyboard->press(event);
+    if (!press)
+        return YES;
+    const KeyAnswer answer = _parts->logic.keyPressed(*press);
+    if (answer == KeyAnswer::nextView)
+        [[self window] selectKeyViewFollowingView:self];
+    else if (answer == KeyAnswer::previousView)
+        [[self window] selectKeyViewPrecedingView:self];
+    return answer != KeyAnswer::notOurs;
+}
+
+#pragma mark - Mouse
+
+- (void)mouseDown:(NSEvent*)event {
+    _parts->isClearPressed = [self isOnClearButton:event];
+    if (_parts->isClearPressed)
+        [self setNeedsDisplay:YES];
+    else if ([[self window] makeFirstResponder:self])
+        _parts->logic.arm();
+}
+
+- (void)mouseUp:(NSEvent*)event {
+    const bool clears = _parts->isClearPressed && [self isOnClearButton:event];
+    _parts->isClearPressed = false;
+    [self setNeedsDisplay:YES];
+    if (clears)
+        _parts->logic.clear();
+}
+
+- (BOOL)isOnClearButton:(NSEvent*)event {
+    const NSPoint point = [self convertPoint:[event locationInWindow] fromView:nil];
+    return holdsKey(_parts->logic.combo()) && NSPointInRect(point, clearButtonRect([self bounds]));
+}
+
+#pragma mark - Drawing
+
+- (void)drawRect:(NSRect)__attribute__((unused))rect {
+    const bool isKey = [[self window] isKeyWindow];
+    drawRecorder({.bounds = [self bounds],
+                  .text = [self stringValue],
+                  .isListening = _parts->logic.isArmed(),
+                  .hasFocus = isKey && [[self window] firstResponder] == self,
+                  .isEmpty = !holdsKey(_parts->logic.combo()),
+                  .isClearPressed = _parts->isClearPressed});
+}
+
+- (NSString*)comboText:(std::string (*)(const KeyCombo&, const LayoutLabel&))inForm {
+    const std::string text = inForm(_parts->logic.combo(), _parts->layoutLabel());
+    return [NSString stringWithUTF8String:text.c_str()];
+}
+
+#pragma mark - Accessibility
+
+- (BOOL)isAccessibilityElement {
+    return YES;
+}
+
+- (NSString*)accessibilityRole {
+    return NSAccessibilityButtonRole;
+}
+
+- (NSString*)accessibilityRoleDescription {
+    return roleText();
+}
+
+- (void)setAccessibilityLabel:(NSString*)label {
+    _parts->accessibilityLabel = Retained<NSString*>([[label copy] autorelease]);
+}
+
+- (NSString*)accessibilityLabel {
+    return _parts->accessibilityLabel.get();
+}
+
+- (id)accessibilityValue {
+    if (_parts->logic.isArmed())
+        return listeningText();
+    return holdsKey(_parts->logic.combo()) ? [self comboText:comboInWords] : emptyValueText();
+}
+
+- (NSString*)accessibilityHelp {
+    return _parts->listener.reasons().shown();
+}
+
+- (BOOL)accessibilityPerformPress {
+    if ([[self window] makeFirstResponder:self])
+        _parts->logic.arm();
+    return [self isListening];
+}
+
+- (BOOL)accessibilityPerformDelete {
+    _parts->logic.clear();
+    return YES;
+}
+
+@end

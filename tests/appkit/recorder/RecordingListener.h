@@ -1,0 +1,31 @@
+#pragma once
+
+#include "appkit/recorder/RecorderLogic.h"
+
+#include <optional>
+#include <vector>
+
+namespace qbsp::recorder {
+
+/// A listener that remembers what it was asked and told.
+struct RecordingListener : RecorderListener {
+    std::vector<KeyCombo> offered;
+    std::vector<KeyCombo> reported;
+    std::optional<Refusal> shownRefusal;
+    std::optional<KeyCombo> takenCombo;
+
+    bool isTaken(const KeyCombo& combo) override {
+        offered.push_back(combo);
+        return combo == takenCombo;
+    }
+
+    void refused(Refusal refusal) override { shownRefusal = refusal; }
+
+    void refusalPassed() override { shownRefusal.reset(); }
+
+    void comboChanged(const KeyCombo& combo) override { reported.push_back(combo); }
+
+    void lookChanged() override {}
+};
+
+} // namespace qbsp::recorder

@@ -1,0 +1,99 @@
+#include "RecordingListener.h"
+#include "appkit/recorder/KeyComboText.h"
+#include "appkit/recorder/gnustep/X11KeyCodes.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <set>
+#include <string>
+
+namespace qbsp::recorder {
+
+namespace {
+
+constexpr VirtualKey lastKey = 127;
+
+/// A combination as the settings hold it.
+struct StoredCombo {
+    std::int32_t code;
+    platform::CarbonFlags modifiers;
+};
+
+StoredCombo stored(const KeyCombo& combo) {
+    return {.code = static_cast<std::int32_t>(combo.code),
+            .modifiers = platform::cocoaToCarbonFlags(combo.flags)};
+}
+
+KeyCombo loaded(const StoredCombo& combo) {
+    return {.flags = platform::carbonToCocoaFlags(combo.modifiers), .code = combo.code};
+}
+
+std::string shown(const KeyCombo& combo) {
+    return comboInSymbols(combo, [](VirtualKey) { return std::string(); });
+}
+
+/// Every key with every set of modifiers.
+template <class Check>
+void forEachCombo(Check check) {
+    for (VirtualKey key = 0; key <= lastKey; ++key)
+        for (CocoaFlags set = 0; set < 16; ++set)
+            check(KeyCombo{.flags = set << 17, .code = key});
+}
+
+/// True for what means something else to a recorder, or nothing: typing, moving on, cancelling and clearing.
+bool isNoHotKey(const KeyCombo& combo) {
+    return (combo.flags & ~modifiers::shift) == 0 && !isFunctionKey(combo.code);
+}
+
+/// What a fresh recorder holds after that combination was pressed.
+KeyCombo recorded(const KeyCombo& combo) {
+    RecordingListener listener;
+    RecorderLogic logic(listener);
+    logic.arm();
+    std::ignore = logic.keyPressed({.key = combo.code, .flags = combo.flags});
+    return logic.combo();
+}
+
+} // namespace
+
+TEST(StoredForm, EveryHotKeyIsRecordedStoredLoadedAndShownTheSame) {
+    forEachCombo([](const KeyCombo& combo) {
+        if (isNoHotKey(combo))
+            return;
+        ASSERT_EQ(recorded(combo), combo) << shown(combo);
+        ASSERT_EQ(loaded(stored(recorded(combo))), combo) << shown(combo);
+        ASSERT_EQ(shown(loaded(stored(combo))), shown(combo));
+    });
+}
+
+TEST(StoredForm, WhatIsNoHotKeyIsNotRecorded) {
+    forEachCombo([](const KeyCombo& combo) {
+        if (isNoHotKey(combo)) {
+            ASSERT_EQ(recorded(combo), KeyCombo{}) << shown(combo);
+        }
+    });
+}
+
+TEST(StoredForm, EveryCombinationIsShownByTheProgramAsItWasStored) {
+    RecordingListener listener;
+    RecorderLogic logic(listener);
+    forEachCombo([&logic](const KeyCombo& combo) {
+        logic.setCombo(loaded(stored(combo)));
+        ASSERT_EQ(logic.combo(), combo) << shown(combo);
+    });
+    EXPECT_TRUE(listener.reported.empty());
+}
+
+TEST(StoredForm, NoTwoCombinationsLookTheSame) {
+    std::set<std::string> texts;
+    forEachCombo(
+        [&texts](const KeyCombo& combo) { ASSERT_TRUE(texts.insert(shown(combo)).second) << shown(combo); });
+}
+
+TEST(StoredForm, TheEmptyCombinationIsLoadedEmpty) {
+    EXPECT_EQ(loaded(stored(KeyCombo{})), KeyCombo{});
+}
+
+} // namespace qbsp::recorder

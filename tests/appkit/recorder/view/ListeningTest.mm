@@ -1,0 +1,199 @@
+#include "EventPump.h"
+#include "RecorderViewFixture.h"
+
+namespace qbsp::recorder {
+
+namespace {
+
+constexpr VirtualKey keyC = 8;
+const KeyCombo commandA{.flags = modifiers::command, .code = 0};
+
+NSData* picture(NSView* view) {
+    [view lockFocus];
+    NSBitmapImageRep* bitmap = [[NSBitmapImageRep alloc] initWithFocusedViewRect:[view bounds]];
+    [view unlockFocus];
+    return [[bitmap autorelease] TIFFRepresentation];
+}
+
+RecorderWindow* otherWindow() {
+    static RecorderWindow* const window = [[RecorderWindow alloc] initAtOrigin:NSMakePoint(700, 400)];
+    [window fill];
+    return window;
+}
+
+} // namespace
+
+TEST_F(RecorderView, AClickArmsIt) {
+    click(first);
+
+    EXPECT_TRUE([first isListening]);
+    EXPECT_EQ([window firstResponder], first);
+}
+
+TEST_F(RecorderView, SpaceArmsIt) {
+    focus(first);
+
+    press("space");
+
+    EXPECT_TRUE([first isListening]);
+}
+
+TEST_F(RecorderView, TheFocusAloneDoesNotArmIt) {
+    focus(first);
+
+    EXPECT_FALSE([first isListening]);
+}
+
+TEST_F(RecorderView, ArmingOneDisarmsAnother) {
+    click(first);
+
+    click(second);
+
+    EXPECT_FALSE([first isListening]);
+    EXPECT_TRUE([second isListening]);
+}
+
+TEST_F(RecorderView, ArmingOneDisarmsAnotherInAnotherWindow) {
+    RecorderWindow* other = otherWindow();
+    armFirst();
+
+    makeKey(other);
+    [other makeFirstResponder:other->first];
+    [other->first accessibilityPerformPress];
+
+    EXPECT_TRUE([other->first isListening]);
+    EXPECT_TRUE(waitUntil([&] { return ![first isListening]; }));
+    [other orderOut:nil];
+}
+
+TEST_F(RecorderView, WhileArmedItSaysThatItListens) {
+    [first setKeyCode:0 flags:modifiers::command];
+    armFirst();
+
+    EXPECT_EQ(text([first stringValue]), "Type shortcut");
+}
+
+TEST_F(RecorderView, WhileArmedItIsHighlighted) {
+    focus(first);
+    [first display];
+    NSData* idle = picture(first);
+
+    press("space");
+    [first display];
+
+    EXPECT_FALSE([idle isEqualToData:picture(first)]);
+}
+
+TEST_F(RecorderView, LosingTheFocusDisarmsIt) {
+    armFirst();
+
+    focus(window->textField);
+
+    EXPECT_FALSE([first isListening]);
+}
+
+TEST_F(RecorderView, LosingTheWindowsKeyStateDisarmsIt) {
+    RecorderWindow* other = otherWindow();
+    armFirst();
+
+    makeKey(other);
+
+    EXPECT_TRUE(waitUntil([&] { return ![first isListening]; }));
+    EXPECT_EQ([window firstResponder], first);
+    [other orderOut:nil];
+}
+
+TEST_F(RecorderView, LeavingItsWindowDisarmsIt) {
+    armFirst();
+    appkit::Retained<QBSPRecorderView*> kept(first);
+
+    [first removeFromSuperview];
+
+    EXPECT_FALSE([first isListening]);
+}
+
+TEST_F(RecorderView, EscCancelsAndNeverErases) {
+    [first setKeyCode:0 flags:modifiers::command];
+    armFirst();
+
+    press("Escape");
+
+    EXPECT_FALSE([first isListening]);
+    EXPECT_EQ(comboOf(first), commandA);
+    EXPECT_TRUE(heard.reported.empty());
+}
+
+TEST_F(RecorderView, TabMovesOn) {
+    armFirst();
+
+    press("Tab");
+
+    EXPECT_FALSE([first isListening]);
+    EXPECT_EQ([window firstResponder], second);
+    EXPECT_FALSE([second isListening]);
+}
+
+TEST_F(RecorderView, ShiftTabMovesBack) {
+    focus(second);
+    press("space");
+
+    press("shift+Tab");
+
+    EXPECT_FALSE([second isListening]);
+    EXPECT_EQ([window firstResponder], first);
+}
+
+TEST_F(RecorderView, TabMovesOnAlsoWhileItIsIdle) {
+    focus(first);
+
+    press("Tab");
+
+    EXPECT_EQ([window firstResponder], second);
+}
+
+TEST_F(RecorderView, WhileArmedItKeepsKeysFromButtonsAndMenus) {
+    armFirst();
+
+    press("Return");
+    press("ctrl+Return");
+
+    EXPECT_EQ(window->actions, 0);
+    EXPECT_EQ(comboOf(first), (KeyCombo{.flags = modifiers::control, .code = keys::returnKey}));
+}
+
+TEST_F(RecorderView, WhileIdleItLeavesKeysToButtonsAndMenus) {
+    focus(first);
+
+    press("Return");
+
+    EXPECT_TRUE(waitUntil([&] { return window->actions == 1; }));
+}
+
+TEST_F(RecorderView, WhileArmedItKeepsTheMenusShortcutsFromTheMenu) {
+    NSMenu* menu = [[[NSMenu alloc] initWithTitle:@"Test"] autorelease];
+    [[menu addItemWithTitle:@"Act" action:@selector(act:) keyEquivalent:@"c"] setTarget:window];
+    [NSApp setMainMenu:menu];
+    armFirst();
+
+    press("alt+c");
+    const int whileArmed = window->actions;
+    press("alt+c");
+
+    EXPECT_EQ(whileArmed, 0);
+    EXPECT_EQ(comboOf(first), (KeyCombo{.flags = modifiers::option, .code = keyC}));
+    EXPECT_EQ(window->actions, 1) << "once it is idle again, the menu has its key back";
+    [NSApp setMainMenu:nil];
+}
+
+TEST_F(RecorderView, ARecorderThatGoesAwayWhileItListensLeavesNothingBehind) {
+    armFirst();
+    press("c");
+    ASSERT_NE(reason(), "");
+
+    [first removeFromSuperview];
+    first = nil;
+
+    EXPECT_EQ(reason(), "");
+}
+
+} // namespace qbsp::recorder

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "RecorderWindow.h"
+#include "appkit/Retained.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace qbsp::recorder {
+
+/// A window on the screen with real recorders in it, worked by a real keyboard and mouse.
+class RecorderView : public testing::Test {
+  protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    /// Presses and releases keys together, such as "ctrl+shift+c", and waits until the window has seen them.
+    void press(const std::string& keys);
+
+    /// Clicks into the middle of the view.
+    void click(NSView* view);
+    void clickClearButton(QBSPRecorderView* view);
+    void clickAt(NSView* view, NSPoint point);
+
+    /// Gives the view the focus without a click.
+    void focus(NSView* view);
+    void armFirst();
+
+    /// Makes the window the one that keys go to.
+    void makeKey(NSWindow* window);
+
+    [[nodiscard]] KeyCombo comboOf(QBSPRecorderView* view) const;
+    [[nodiscard]] std::string reason() const;
+
+    Heard heard;
+    RecorderWindow* window = nil;
+    QBSPRecorderView* first = nil;
+    QBSPRecorderView* second = nil;
+
+  private:
+    appkit::Retained<HearingDelegate*> delegate_;
+};
+
+[[nodiscard]] std::string text(NSString* string);
+
+} // namespace qbsp::recorder

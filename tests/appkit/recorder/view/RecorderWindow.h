@@ -1,0 +1,54 @@
+#pragma once
+
+#include "appkit/recorder/VirtualKeys.h"
+
+#import "appkit/recorder/QBSPRecorderView.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace qbsp::recorder {
+
+/// What a delegate was asked and told, and what it answers.
+struct Heard {
+    std::vector<KeyCombo> offered;
+    std::vector<KeyCombo> reported;
+    std::optional<KeyCombo> taken;
+};
+
+} // namespace qbsp::recorder
+
+/// Notes what it hears.
+@interface HearingDelegate : NSObject <QBSPRecorderViewDelegate> {
+  @private
+    qbsp::recorder::Heard* _heard;
+}
+- (id)initWithHeard:(qbsp::recorder::Heard*)heard;
+@end
+
+/// A window with two recorders, a text field, a field for reasons and a button that Return presses. It counts
+/// the events that it has dealt with.
+@interface RecorderWindow : NSWindow {
+  @public
+    QBSPRecorderView* first;
+    QBSPRecorderView* second;
+    NSTextField* textField;
+    NSTextField* reasonField;
+    int keyUps;
+    int keyDowns;
+    int mouseDowns;
+    int mouseUps;
+    int actions;
+}
+- (id)initAtOrigin:(NSPoint)origin;
+
+/// Puts fresh views into it.
+- (void)fill;
+
+/// Takes them out again.
+- (void)empty;
+
+/// What the button and menu items do.
+- (void)act:(id)sender;
+@end

@@ -1,0 +1,245 @@
+#include "EventPump.h"
+#include "RecorderViewFixture.h"
+
+namespace qbsp::recorder {
+
+namespace {
+
+constexpr VirtualKey keyA = 0;
+constexpr VirtualKey keyC = 8;
+constexpr VirtualKey keyF5 = 96;
+const KeyCombo empty{};
+const KeyCombo controlC{.flags = modifiers::control, .code = keyC};
+const KeyCombo commandA{.flags = modifiers::command, .code = keyA};
+
+/// Those modifiers as keys of a keyboard: "ctrl+alt+".
+std::string keysOf(CocoaFlags flags) {
+    std::string keys;
+    keys += (flags & modifiers::control) != 0 ? "ctrl+" : "";
+    keys += (flags & modifiers::option) != 0 ? "alt+" : "";
+    keys += (flags & modifiers::shift) != 0 ? "shift+" : "";
+    keys += (flags & modifiers::command) != 0 ? "super+" : "";
+    return keys;
+}
+
+} // namespace
+
+TEST_F(RecorderView, OffersACombinationWithCommandOptionOrControlToTheDelegate) {
+    for (const CocoaFlags flags : {modifiers::command, modifiers::option, modifiers::control}) {
+        armFirst();
+        press(keysOf(flags) + "c");
+        ASSERT_FALSE(heard.offered.empty());
+        EXPECT_EQ(heard.offered.back(), (KeyCombo{.flags = flags, .code = keyC}));
+    }
+}
+
+TEST_F(RecorderView, OffersAFunctionKeyAloneToTheDelegate) {
+    armFirst();
+
+    press("F5");
+
+    EXPECT_EQ(heard.offered, (std::vector{KeyCombo{.flags = 0, .code = keyF5}}));
+}
+
+TEST_F(RecorderView, RecordsEverySetOfModifiers) {
+    for (CocoaFlags set = 0; set < 16; ++set) {
+        const CocoaFlags flags = set << 17;
+        const bool functionKeyOnly = (flags & ~modifiers::shift) == 0;
+        [first setKeyCode:-1 flags:0];
+        armFirst();
+        press(keysOf(flags) + (functionKeyOnly ? "F5" : "c"));
+        EXPECT_EQ(comboOf(first), (KeyCombo{.flags = flags, .code = functionKeyOnly ? keyF5 : keyC}))
+            << keysOf(flags);
+    }
+}
+
+TEST_F(RecorderView, TakesTheKeysOnBothSidesOfTheKeyboardForTheSameModifier) {
+    constexpr std::pair<const char*, CocoaFlags> sides[] = {{"Control_R+c", modifiers::control},
+                                                            {"Alt_R+c", modifiers::option},
+                                                            {"Super_R+c", modifiers::command},
+                                                            {"Super_L+c", modifiers::command}};
+    for (const auto& [keys, flags] : sides) {
+        [first setKeyCode:-1 flags:0];
+        armFirst();
+        press(keys);
+        EXPECT_EQ(comboOf(first), (KeyCombo{.flags = flags, .code = keyC})) << keys;
+    }
+}
+
+TEST_F(RecorderView, RefusesATakenCombinationInWordsKeepsTheOldOneAndGoesOnListening) {
+    heard.taken = controlC;
+    [first setKeyCode:keyA flags:modifiers::command];
+    armFirst();
+
+    press("ctrl+c");
+
+    EXPECT_EQ(reason(), "This combination is used elsewhere.");
+    EXPECT_EQ(comboOf(first), commandA);
+    EXPECT_TRUE([first isListening]);
+    EXPECT_TRUE(heard.reported.empty());
+}
+
+TEST_F(RecorderView, ShowsTheReasonUntilTheNextKey) {
+    heard.taken = controlC;
+    armFirst();
+    press("ctrl+c");
+
+    press("ctrl+a");
+
+    EXPECT_EQ(reason(), "");
+    EXPECT_EQ(comboOf(first), (KeyCombo{.flags = modifiers::control, .code = keyA}));
+}
+
+TEST_F(RecorderView, ShowsAnAcceptedCombinationInSymbolsAndReportsItOnce) {
+    armFirst();
+
+    press("ctrl+shift+c");
+
+    const KeyCombo combo{.flags = modifiers::control | modifiers::shift, .code = keyC};
+    EXPECT_EQ(text([first stringValue]), "⌃⇧C");
+    EXPECT_EQ(heard.reported, std::vector{combo});
+    EXPECT_FALSE([first isListening]);
+}
+
+TEST_F(RecorderView, DoesNotReportTheCombinationItAlreadyHolds) {
+    [first setKeyCode:keyC flags:modifiers::control];
+    armFirst();
+
+    press("ctrl+c");
+
+    EXPECT_TRUE(heard.reported.empty());
+    EXPECT_FALSE([first isListening]);
+}
+
+TEST_F(RecorderView, DeleteAndBackspaceClearItAndReportTheEmptyCombination) {
+    for (const char* key : {"Delete", "BackSpace"}) {
+        [first setKeyCode:keyA flags:modifiers::command];
+        armFirst();
+        press(key);
+        EXPECT_EQ(comboOf(first), empty);
+        ASSERT_FALSE(heard.reported.empty());
+        EXPECT_EQ(heard.reported.back(), empty);
+        EXPECT_FALSE([first isListening]);
+    }
+    EXPECT_EQ(heard.reported.size(), 2U);
+}
+
+TEST_F(RecorderView, TheClearButtonClearsItAndReportsTheEmptyCombination) {
+    [first setKeyCode:keyA flags:modifiers::command];
+
+    clickClearButton(first);
+
+    EXPECT_EQ(comboOf(first), empty);
+    EXPECT_EQ(heard.reported, std::vector{empty});
+    EXPECT_FALSE([first isListening]);
+}
+
+TEST_F(RecorderView, TheClearButtonEndsListeningToo) {
+    [first setKeyCode:keyA flags:modifiers::command];
+    armFirst();
+
+    clickClearButton(first);
+
+    EXPECT_FALSE([first isListening]);
+    EXPECT_EQ(heard.reported, std::vector{empty});
+}
+
+TEST_F(RecorderView, AnEmptyOneHasNoClearButton) {
+    clickClearButton(first);
+
+    EXPECT_TRUE([first isListening]);
+    EXPECT_TRUE(heard.reported.empty());
+}
+
+TEST_F(RecorderView, RefusesShiftAloneWithALetterInWords) {
+    armFirst();
+
+    press("shift+c");
+
+    EXPECT_EQ(reason(), "Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well.");
+    EXPECT_TRUE(heard.offered.empty());
+    EXPECT_TRUE([first isListening]);
+}
+
+TEST_F(RecorderView, RefusesAPlainLetterInWords) {
+    armFirst();
+
+    press("c");
+
+    EXPECT_EQ(reason(), "Hold Control, Option (Alt) or Command (Super) together with this key.");
+    EXPECT_TRUE(heard.offered.empty());
+    EXPECT_TRUE([first isListening]);
+}
+
+TEST_F(RecorderView, RefusesAKeyThatTheMacDoesNotHaveInWords) {
+    armFirst();
+
+    press("ctrl+Print");
+
+    EXPECT_EQ(reason(), "This key cannot be part of a shortcut.");
+}
+
+TEST_F(RecorderView, DoesNotReportACombinationSetByTheProgram) {
+    [first setKeyCode:keyC flags:modifiers::control];
+
+    EXPECT_EQ(text([first stringValue]), "⌃C");
+    EXPECT_TRUE(heard.reported.empty());
+}
+
+TEST_F(RecorderView, TreatsKeyCodeZeroLikeAnyOther) {
+    armFirst();
+
+    press("super+a");
+
+    EXPECT_EQ(text([first stringValue]), "⌘A");
+    EXPECT_EQ(heard.reported, std::vector{commandA});
+}
+
+TEST_F(RecorderView, DoesNotTakeTheRepetitionsOfAKeyForMoreKeys) {
+    heard.taken = controlC;
+    armFirst();
+
+    window->keyDowns = 0;
+    ASSERT_TRUE(run({"xdotool", "keydown", "ctrl", "keydown", "c"}));
+    EXPECT_TRUE(waitUntil([&] { return window->keyDowns > 3; }));
+    ASSERT_TRUE(run({"xdotool", "keyup", "c", "keyup", "ctrl"}));
+
+    EXPECT_EQ(heard.offered.size(), 1U);
+}
+
+TEST_F(RecorderView, WorksWithoutADelegate) {
+    [first setDelegate:nil];
+    armFirst();
+
+    press("ctrl+c");
+
+    EXPECT_EQ(comboOf(first), controlC);
+}
+
+TEST_F(RecorderView, AScreenReaderGetsRoleLabelAndValueInWords) {
+    [first setAccessibilityLabel:@"Take Note Hotkey"];
+    [first setKeyCode:keyC flags:modifiers::command | modifiers::shift];
+
+    EXPECT_EQ(text([first accessibilityRole]), text(NSAccessibilityButtonRole));
+    EXPECT_EQ(text([first accessibilityRoleDescription]), "shortcut recorder");
+    EXPECT_EQ(text([first accessibilityLabel]), "Take Note Hotkey");
+    EXPECT_EQ(text([first accessibilityValue]), "Command Shift C");
+}
+
+TEST_F(RecorderView, AScreenReaderGetsWhatAnEmptyOneAndOneThatListensSay) {
+    EXPECT_EQ(text([first accessibilityValue]), "No shortcut");
+
+    armFirst();
+
+    EXPECT_EQ(text([first accessibilityValue]), "Type shortcut");
+}
+
+TEST_F(RecorderView, AScreenReaderGetsTheReasonOfARefusal) {
+    armFirst();
+
+    press("c");
+
+    EXPECT_EQ(text([first accessibilityHelp]), reason());
+}
+
+} // namespace qbsp::recorder

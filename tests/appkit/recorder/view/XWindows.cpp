@@ -1,0 +1,30 @@
+#include "XWindows.h"
+
+#include <X11/Xlib.h>
+
+namespace qbsp::recorder {
+
+namespace {
+
+/// The X server numbers what a client makes within a range of its own.
+constexpr unsigned long clientMask = 0xffe00000;
+
+} // namespace
+
+bool XWindow::hasKeyboard() const {
+    Window focused = None;
+    int revertTo = 0;
+    XGetInputFocus(static_cast<Display*>(display_), &focused, &revertTo);
+    return (focused & clientMask) == (window_ & clientMask);
+}
+
+XWindow::Point XWindow::onScreen(Point point) const {
+    Display* display = static_cast<Display*>(display_);
+    Point result{};
+    Window child = None;
+    XTranslateCoordinates(display, window_, DefaultRootWindow(display), point.x, point.y, &result.x,
+                          &result.y, &child);
+    return result;
+}
+
+} // namespace qbsp::recorder
