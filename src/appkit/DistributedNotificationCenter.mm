@@ -1,0 +1,25 @@
+#include "appkit/DistributedNotificationCenter.h"
+
+#include "appkit/GSTry.h"
+#include "appkit/PropertyListConversion.h"
+#include "appkit/Strings.h"
+
+namespace qbsp::appkit {
+
+void AppKitDistributedNotificationCenter::postNotificationName(
+    platform::NotificationName name, const std::string& object,
+    const std::optional<platform::Dictionary>& userInfo, platform::NotificationOptions options) {
+    const auto post = [&] {
+        const bool immediately = options == platform::NotificationOptions::deliverImmediately;
+        [[NSDistributedNotificationCenter defaultCenter] postNotificationName:nsString(name.text)
+                                                                       object:nsString(object)
+                                                                     userInfo:objectFromDictionary(userInfo)
+                                                           deliverImmediately:immediately ? YES : NO];
+    };
+    if (tryObjC(post) == nil)
+        return;
+    if (NSException* failure = tryObjC(post))
+        log_.log("ERROR: " + std::string(name.text) + " could not be posted: " + utf8([failure reason]));
+}
+
+} // namespace qbsp::appkit

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/OpenPanel.h"
+
+#import <Foundation/Foundation.h>
+
+namespace qbsp::appkit {
+
+/// AppKit's open panels. The object that owns the services stays alive while a panel is shown.
+class AppKitOpenPanels final : public platform::OpenPanels {
+public:
+    /// The owner holds this, and is therefore not retained by it.
+    explicit AppKitOpenPanels(id owner) : owner_(owner) {}
+
+    [[nodiscard]] std::shared_ptr<platform::OpenPanel> openPanel() override;
+
+private:
+    id owner_;
+};
+
+} // namespace qbsp::appkit

@@ -1,0 +1,75 @@
+#include "appkit/OpenPanels.h"
+
+#include "appkit/DelayedMessage.h"
+#include "appkit/OpenPanelSheet.h"
+#include "appkit/PreferencePaneBase.h"
+#include "appkit/Retained.h"
+#include "appkit/Strings.h"
+#include "appkit/URLs.h"
+
+namespace qbsp::appkit {
+
+namespace {
+
+NSWindow* nsWindow(platform::Window* window) {
+    auto* appKitWindow = dynamic_cast<AppKitWindow*>(window);
+    return appKitWindow == nullptr ? nil : appKitWindow->nsWindow();
+}
+
+class AppKitOpenPanel final : public platform::OpenPanel {
+  public:
+    AppKitOpenPanel(NSOpenPanel* panel, id owner) : panel_(panel), owner_(owner) {}
+
+    void setCanChooseDirectories(bool canChoose) override {
+        [panel_.get() setCanChooseDirectories:canChoose ? YES : NO];
+    }
+
+    void setAllowsMultipleSelection(bool allows) override {
+        [panel_.get() setAllowsMultipleSelection:allows ? YES : NO];
+    }
+
+    void setAllowedFileTypes(const std::vector<std::string>& extensions) override {
+        NSMutableArray* types = [NSMutableArray arrayWithCapacity:extensions.size()];
+        for (const std::string& extension : extensions)
+            [types addObject:nsString(extension)];
+        [panel_.get() setAllowedFileTypes:types];
+    }
+
+    void setDirectoryURL(const platform::URL& folder) override {
+        [panel_.get() setDirectoryURL:nsURL(folder)];
+    }
+
+    void beginSheetModalForWindow(platform::Window* window,
+                                  std::function<void(std::int64_t)> completionHandler) override;
+
+    std::optional<platform::URL> chosenURL() const override {
+        return urlFromNSURL([[panel_.get() URLs] lastObject]);
+    }
+
+  private:
+    Retained<NSOpenPanel*> panel_;
+    Retained<id> owner_;
+};
+
+void AppKitOpenPanel::beginSheetModalForWindow(platform::Window* window,
+                                               std::function<void(std::int64_t)> completionHandler) {
+    const Retained<NSOpenPanel*> panel = panel_;
+    const Retained<NSWindow*> sheetWindow(nsWindow(window));
+    const Retained<id> owner = owner_;
+    // The owner stays while the panel is a sheet, too.
+    const auto handler = [=](std::int64_t result) {
+        std::ignore = owner;
+        completionHandler(result);
+    };
+    const auto show = [=] { showSheet(panel.get(), sheetWindow.get(), handler); };
+    // The panel may run modally; shown from the run loop, its result still comes after this has returned.
+    sendAfterDelay(show, 0, owner_.get());
+}
+
+} // namespace
+
+std::shared_ptr<platform::OpenPanel> AppKitOpenPanels::openPanel() {
+    return std::make_shared<AppKitOpenPanel>([NSOpenPanel openPanel], owner_);
+}
+
+} // namespace qbsp::appkit

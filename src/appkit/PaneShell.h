@@ -1,0 +1,56 @@
+#pragma once
+
+#include "appkit/PreferencePaneBase.h"
+#include "appkit/Services.h"
+#include "appkit/ViewControls.h"
+#include "appkit/view/QBSPVisibilityBinding.h"
+#include "pane/QBSPPreferencePane.h"
+
+namespace qbsp::appkit {
+
+/// Everything that the principal object holds: the pane, the services it asks, and its view.
+class PaneShell {
+  public:
+    /// The principal object, which owns this, and its plug-in's bundle.
+    PaneShell(::QBSPPreferencePane* object, NSBundle* bundle);
+    ~PaneShell();
+    PaneShell(const PaneShell&) = delete;
+    PaneShell& operator=(const PaneShell&) = delete;
+
+    /// Makes the pane. False when the base class refused; the principal object is gone then.
+    [[nodiscard]] bool create();
+
+    [[nodiscard]] qbsp::QBSPPreferencePane& pane() { return *pane_; }
+
+    /// The view; made the first time.
+    [[nodiscard]] QBSPPaneView* view();
+
+    void mainViewDidLoad();
+    void willSelect();
+    void willUnselect();
+
+    /// The application ends. The pane is left first when it is shown, and a host that then says so as well is
+    /// not heard.
+    void applicationWillTerminate();
+
+    [[nodiscard]] NSInteger numberOfRows();
+    [[nodiscard]] id objectValue(NSTableColumn* column, NSInteger row);
+    void setObjectValue(id value, NSTableColumn* column, NSInteger row);
+
+  private:
+    void makeView();
+
+    ::QBSPPreferencePane* object_;
+    NSBundle* bundle_;
+    AppKitServices services_;
+    AppKitPreferencePaneBase base_;
+    Retained<QBSPPaneView*> view_;
+    Retained<QBSPVisibilityBinding*> visibility_;
+    std::optional<ViewControls> controls_;
+    bool isSetUp_ = false;
+    bool isShown_ = false;
+    bool applicationTerminates_ = false;
+    std::shared_ptr<qbsp::QBSPPreferencePane> pane_;
+};
+
+} // namespace qbsp::appkit

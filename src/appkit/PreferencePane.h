@@ -1,0 +1,29 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+#import <PreferencePanes/NSPreferencePane.h>
+
+namespace qbsp::appkit {
+class PaneShell;
+}
+
+/// The principal class of the plug-in. It hands every message of the host and of the view on to the pane.
+__attribute__((visibility("default")))
+@interface QBSPPreferencePane : NSPreferencePane {
+    qbsp::appkit::PaneShell* shell;
+}
+
+/// The start/stop button, the reset button and the add button.
+- (IBAction)toggleSorterProcess:(id)sender;
+- (IBAction)resetFullscreenSettings:(id)sender;
+- (IBAction)addHideApp:(id)sender;
+
+@end
+
+/// What the base class does for the messages that the pane overrides.
+@interface QBSPPreferencePane (Inherited)
+- (id)inheritedInitWithBundle:(NSBundle*)bundle;
+- (void)inheritedMainViewDidLoad;
+- (void)inheritedWillSelect;
+- (void)inheritedWillUnselect;
+@end

@@ -1,0 +1,116 @@
+#import "appkit/PreferencePane.h"
+
+#include "appkit/PaneShell.h"
+#include "appkit/UserDefaults.h"
+
+using qbsp::appkit::PaneShell;
+
+@implementation QBSPPreferencePane
+
+#pragma mark - Life
+
++ (void)initialize {
+    if (self != [QBSPPreferencePane class])
+        return;
+    qbsp::appkit::AppKitUserDefaults userDefaults;
+    qbsp::QBSPPreferencePane::initialize(userDefaults);
+}
+
+- (id)initWithBundle:(NSBundle*)bundle {
+    auto created = std::make_unique<PaneShell>(self, bundle);
+    if (!created->create())
+        return nil;
+    shell = created.release();
+    [[NSNotificationCenter defaultCenter] addObserver:self
+                                             selector:@selector(applicationWillTerminate:)
+                                                 name:NSApplicationWillTerminateNotification
+                                               object:nil];
+    return self;
+}
+
+- (void)dealloc {
+    [[NSNotificationCenter defaultCenter] removeObserver:self];
+    delete shell;
+    [super dealloc];
+}
+
+- (void)applicationWillTerminate:(NSNotification*)notification {
+    shell->applicationWillTerminate();
+}
+
+#pragma mark - NSPreferencePane
+
+- (NSView*)loadMainView {
+    QBSPPaneView* view = shell->view();
+    [self setMainView:view];
+    [self setFirstKeyView:[view firstControl]];
+    [self setInitialKeyView:[view firstControl]];
+    [self setLastKeyView:[view lastControl]];
+    [self mainViewDidLoad];
+    return view;
+}
+
+- (void)mainViewDidLoad {
+    shell->mainViewDidLoad();
+}
+
+- (void)willSelect {
+    shell->willSelect();
+}
+
+- (void)willUnselect {
+    shell->willUnselect();
+}
+
+#pragma mark - Actions
+
+- (IBAction)toggleSorterProcess:(id)sender {
+    shell->pane().toggleSorterProcess(nullptr);
+}
+
+- (IBAction)resetFullscreenSettings:(id)sender {
+    shell->pane().resetFullscreenSettings(nullptr);
+}
+
+- (IBAction)addHideApp:(id)sender {
+    shell->pane().addHideApp(nullptr);
+}
+
+#pragma mark - NSTableViewDataSource
+
+- (NSInteger)numberOfRowsInTableView:(NSTableView*)tableView {
+    return shell->numberOfRows();
+}
+
+- (id)tableView:(NSTableView*)tableView objectValueForTableColumn:(NSTableColumn*)column row:(NSInteger)row {
+    return shell->objectValue(column, row);
+}
+
+- (void)tableView:(NSTableView*)tableView
+    setObjectValue:(id)value
+    forTableColumn:(NSTableColumn*)column
+               row:(NSInteger)row {
+    shell->setObjectValue(value, column, row);
+}
+
+@end
+
+@implementation QBSPPreferencePane (Inherited)
+
+- (id)inheritedInitWithBundle:(NSBundle*)bundle {
+    return [super initWithBundle:bundle];
+}
+
+- (void)inheritedMainViewDidLoad {
+    [super mainViewDidLoad];
+}
+
+- (void)inheritedWillSelect {
+    [super willSelect];
+}
+
+- (void)inheritedWillUnselect {
+    [super willUnselect];
+}
+
+@end

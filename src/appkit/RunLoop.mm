@@ -1,0 +1,12 @@
+#include "appkit/RunLoop.h"
+
+#include "appkit/DelayedMessage.h"
+
+namespace qbsp::appkit {
+
+void AppKitRunLoop::performSelectorAfterDelay(platform::Selector, std::function<void()> message,
+                                              platform::Seconds delay) {
+    sendAfterDelay(std::move(message), delay.count(), owner_);
+}
+
+} // namespace qbsp::appkit

@@ -1,0 +1,53 @@
+#include "appkit/TableView.h"
+
+#include "appkit/Strings.h"
+#include "platform/NullObjects.h"
+
+#include <algorithm>
+
+namespace qbsp::appkit {
+
+#pragma mark - A column
+
+std::string AppKitTableColumn::identifier() const {
+    id identifier = [column_.get() identifier];
+    return [identifier isKindOfClass:[NSString class]] ? utf8(identifier) : std::string();
+}
+
+void AppKitTableColumn::setHeaderStringValue(std::string_view text) {
+    [[column_.get() headerCell] setStringValue:nsString(text)];
+    [[[column_.get() tableView] headerView] setNeedsDisplay:YES];
+}
+
+#pragma mark - The table
+
+AppKitTableView::AppKitTableView(NSTableView* table) : table_(table) {
+    NSArray* columns = [table tableColumns];
+    for (NSUInteger index = 0; index < [columns count]; ++index)
+        columns_.emplace_back([columns objectAtIndex:index]);
+}
+
+platform::TableColumn& AppKitTableView::tableColumnWithIdentifier(platform::ColumnIdentifier identifier) {
+    const auto found = std::ranges::find(columns_, identifier.text, &AppKitTableColumn::identifier);
+    return found == columns_.end() ? platform::nullObject<platform::TableColumn>() : *found;
+}
+
+void AppKitTableView::reloadData() {
+    [table_.get() reloadData];
+}
+
+void AppKitTableView::selectRow(std::size_t row) {
+    if (hasRow(row))
+        [table_.get() selectRowIndexes:[NSIndexSet indexSetWithIndex:row] byExtendingSelection:NO];
+}
+
+void AppKitTableView::scrollRowToVisible(std::size_t row) {
+    if (hasRow(row))
+        [table_.get() scrollRowToVisible:static_cast<NSInteger>(row)];
+}
+
+bool AppKitTableView::hasRow(std::size_t row) const {
+    return static_cast<NSInteger>(row) < [table_.get() numberOfRows];
+}
+
+} // namespace qbsp::appkit

@@ -1,0 +1,19 @@
+#include "appkit/LaunchServices.h"
+
+#include "processes/Applications.h"
+
+namespace qbsp::appkit {
+
+namespace {
+
+constexpr std::int32_t noErr = 0;
+constexpr std::int32_t kLSApplicationNotFoundErr = -10814;
+
+} // namespace
+
+// There is no database to enter it in: an application is found by its place.
+std::int32_t AppKitLaunchServices::registerURL(const platform::URL& url, platform::RegistrationUpdate) {
+    return processes::identifierOfBundle(url.path()).empty() ? kLSApplicationNotFoundErr : noErr;
+}
+
+} // namespace qbsp::appkit

@@ -1,0 +1,28 @@
+#include "appkit/OpenPanelSheet.h"
+
+namespace qbsp::appkit {
+
+namespace {
+
+/// A block as its caller sees it, made by hand since g++ has none. It is not copied.
+struct ResultBlock {
+    void* isa;
+    int flags;
+    int reserved;
+    void (*invoke)(void* block, NSInteger result);
+    std::function<void(std::int64_t)> handler;
+};
+
+void invokeHandler(void* block, NSInteger result) {
+    static_cast<ResultBlock*>(block)->handler(result);
+}
+
+} // namespace
+
+void showSheet(NSOpenPanel* panel, NSWindow* window, std::function<void(std::int64_t)> handler) {
+    ResultBlock block{nullptr, 0, 0, invokeHandler, std::move(handler)};
+    [panel beginSheetModalForWindow:window
+                  completionHandler:reinterpret_cast<GSSavePanelCompletionHandler>(&block)];
+}
+
+} // namespace qbsp::appkit

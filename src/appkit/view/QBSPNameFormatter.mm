@@ -1,0 +1,30 @@
+#import "appkit/view/QBSPNameFormatter.h"
+
+namespace {
+
+const NSUInteger longestName = 200;
+
+NSString* shortened(NSString* name) {
+    if ([name length] <= longestName)
+        return name;
+    // Not between the halves of a character that takes two units.
+    const NSUInteger end = [name rangeOfComposedCharacterSequenceAtIndex:longestName].location;
+    return [[name substringToIndex:end] stringByAppendingString:@"\u2026"];
+}
+
+NSString* onOneLine(NSString* name) {
+    NSMutableCharacterSet* breaks = [[[NSCharacterSet controlCharacterSet] mutableCopy] autorelease];
+    [breaks formUnionWithCharacterSet:[NSCharacterSet newlineCharacterSet]];
+    NSArray* lines = [name componentsSeparatedByCharactersInSet:breaks];
+    return [lines componentsJoinedByString:@" "];
+}
+
+} // namespace
+
+@implementation QBSPNameFormatter
+
+- (NSString*)stringForObjectValue:(id)name {
+    return [name isKindOfClass:[NSString class]] ? onOneLine(shortened(name)) : nil;
+}
+
+@end
