@@ -1,0 +1,21 @@
+#pragma once
+
+#import "QBSPPreferencesWindow.h"
+#import "QBSPScenarioPlayer.h"
+
+namespace quarrybook {
+struct Options;
+}
+
+/// Starts Quarrybook as its options ask, and ends it.
+@interface QBSPHostDelegate : NSObject {
+    const quarrybook::Options* options;
+    QBSPPaneRunner* runner;
+    QBSPPreferencesWindow* preferences;
+    QBSPScenarioPlayer* player;
+}
+
+/// The options must stay as long as this.
+- (id)initWithCommandLine:(const quarrybook::Options*)theOptions;
+
+@end

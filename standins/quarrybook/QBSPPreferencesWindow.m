@@ -1,0 +1,154 @@
+#import "QBSPPreferencesWindow.h"
+
+#import "QBSPGeneralView.h"
+
+static const CGFloat barHeight = 84;
+static const NSSize firstSize = {620, 680};
+static const NSSize smallestSize = {540, 620};
+static const NSSize buttonSize = {84, 72};
+
+@interface QBSPPreferencesWindow ()
+- (void)makeWindow;
+- (void)makeBar;
+- (NSButton*)pageButtonAt:(CGFloat)x title:(NSString*)title image:(NSImage*)image action:(SEL)action;
+- (void)showPage:(NSView*)newPage;
+- (void)chooseGeneral:(id)sender;
+- (void)chooseSorter:(id)sender;
+- (void)mark:(NSButton*)chosen;
+@end
+
+@implementation QBSPPreferencesWindow
+
+- (id)initWithRunner:(QBSPPaneRunner*)aRunner {
+    if ((self = [super init]) != nil) {
+        runner = [aRunner retain];
+        general = [[QBSPGeneralView alloc] initWithFrame:NSMakeRect(0, 0, 300, 300)];
+        [self makeWindow];
+        [self makeBar];
+        [self chooseGeneral:nil];
+    }
+    return self;
+}
+
+- (void)dealloc {
+    [window setDelegate:nil];
+    [window release];
+    [general release];
+    [runner release];
+    [super dealloc];
+}
+
+- (void)makeWindow {
+    const NSUInteger style =
+        NSTitledWindowMask | NSClosableWindowMask | NSMiniaturizableWindowMask | NSResizableWindowMask;
+    window = [[NSWindow alloc] initWithContentRect:NSMakeRect(100, 100, firstSize.width, firstSize.height)
+                                         styleMask:style
+                                           backing:NSBackingStoreBuffered
+                                             defer:NO];
+    [window setReleasedWhenClosed:NO];
+    [window setContentMinSize:smallestSize];
+    [window setDelegate:(id)self];
+}
+
+- (void)makeBar {
+    NSImage* applicationIcon = [NSImage imageNamed:@"NSApplicationIcon"];
+    generalButton = [self pageButtonAt:12
+                                 title:@"General"
+                                 image:applicationIcon
+                                action:@selector(chooseGeneral:)];
+    sorterButton = [self pageButtonAt:12 + buttonSize.width + 6
+                                title:[runner label]
+                                image:[runner icon]
+                               action:@selector(chooseSorter:)];
+    NSBox* line = [[[NSBox alloc]
+        initWithFrame:NSMakeRect(0, firstSize.height - barHeight, firstSize.width, 2)] autorelease];
+    [line setBoxType:NSBoxSeparator];
+    [line setTitlePosition:NSNoTitle];
+    [line setAutoresizingMask:NSViewWidthSizable | NSViewMinYMargin];
+    [[window contentView] addSubview:line];
+}
+
+- (NSButton*)pageButtonAt:(CGFloat)x title:(NSString*)title image:(NSImage*)image action:(SEL)action {
+    const CGFloat y = firstSize.height - barHeight + (barHeight - buttonSize.height) / 2 + 1;
+    const NSRect frame = NSMakeRect(x, y, buttonSize.width, buttonSize.height);
+    NSButton* button = [[[NSButton alloc] initWithFrame:frame] autorelease];
+    [button setButtonType:NSPushOnPushOffButton];
+    [button setBordered:YES];
+    [button setBezelStyle:NSShadowlessSquareBezelStyle];
+    [button setTitle:title];
+    [button setImage:image];
+    [button setImagePosition:NSImageAbove];
+    [button setTarget:self];
+    [button setAction:action];
+    [button setAutoresizingMask:NSViewMinYMargin];
+    [[window contentView] addSubview:button];
+    return button;
+}
+
+- (void)show {
+    [window center];
+    [window makeKeyAndOrderFront:nil];
+}
+
+- (NSWindow*)window {
+    return window;
+}
+
+- (NSButton*)generalButton {
+    return generalButton;
+}
+
+- (NSButton*)sorterButton {
+    return sorterButton;
+}
+
+#pragma mark - Pages
+
+- (void)chooseGeneral:(id)sender {
+    [self mark:generalButton];
+    if (page == general)
+        return;
+    [runner willUnselect];
+    [self showPage:general];
+    [runner didUnselect];
+}
+
+- (void)chooseSorter:(id)sender {
+    [self mark:sorterButton];
+    NSView* mainView = [runner mainView];
+    if (mainView == nil || page == mainView)
+        return;
+    [runner willSelect];
+    [self showPage:mainView];
+    [runner didSelect];
+    [window makeFirstResponder:[[runner pane] initialKeyView]];
+}
+
+- (void)mark:(NSButton*)chosen {
+    [generalButton setState:chosen == generalButton ? NSOnState : NSOffState];
+    [sorterButton setState:chosen == sorterButton ? NSOnState : NSOffState];
+    [window setTitle:[@"Quarrybook Preferences: " stringByAppendingString:[chosen title]]];
+}
+
+- (void)showPage:(NSView*)newPage {
+    const NSSize size = [[window contentView] bounds].size;
+    [page removeFromSuperview];
+    page = newPage;
+    [page setFrame:NSMakeRect(0, 0, size.width, size.height - barHeight)];
+    [[window contentView] addSubview:page];
+    [[window contentView] setNeedsDisplay:YES];
+}
+
+- (void)leavePane {
+    [runner willUnselect];
+    [runner didUnselect];
+}
+
+#pragma mark - NSWindowDelegate
+
+- (void)windowWillClose:(NSNotification*)notification {
+    [self leavePane];
+    [NSApp terminate:nil];
+}
+
+@end

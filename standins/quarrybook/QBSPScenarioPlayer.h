@@ -1,0 +1,25 @@
+#pragma once
+
+#import "QBSPPreferencesWindow.h"
+
+/// Plays a scenario, one command after the other, from the run loop. It prints each command and its answer; a
+/// wrong line ends the program with status 2.
+@interface QBSPScenarioPlayer : NSObject {
+    void* playing; // of a type that only C++ knows
+    NSTimer* timer;
+    BOOL busy;
+    NSWindow* modalWindowBefore;
+}
+
+/// Nil, and a line on standard error, when the file cannot be read.
+- (id)initWithFile:(const char*)path
+       preferences:(QBSPPreferencesWindow*)preferences
+            runner:(QBSPPaneRunner*)runner;
+
+/// Starts. The target is sent the message at the end.
+- (void)playAndSend:(SEL)message to:(id)target;
+
+@end
+
+/// Ends the application in the ordinary way, with that exit status.
+void QBSPQuitWithStatus(int status);

@@ -1,0 +1,28 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+/// The host's registrar: keeps the Sorter's login item, and starts and stops the Sorter of the host's
+/// edition. A stand-in's switch for tests: while QUARRYBOOK_REGISTRAR_REFUSES is set in the environment, it
+/// changes no login item and answers NO.
+@interface QBSPSorterRegistrar : NSObject
+
+/// YES when the application at that URL is among the user's login items and not switched off there.
+- (BOOL)applicationIsRegistered:(NSURL*)applicationURL;
+
+/// Adds the application to the login items. YES when it is there afterwards.
+- (BOOL)registerApplication:(NSURL*)applicationURL;
+
+/// Takes the application out of the login items. YES when it is not there afterwards.
+- (BOOL)unregisterApplication:(NSURL*)applicationURL;
+
+/// Tells on standard output that the system's accounts preferences were asked for.
+- (void)showAccountsSystemPreferencePane;
+
+/// Starts the Sorter unless it runs. Waits for nothing.
+- (void)showSorterApplication;
+
+/// Asks the Sorter to quit. Waits for nothing.
+- (void)closeSorterApplication;
+
+@end

@@ -1,0 +1,52 @@
+#include "Options.h"
+#import "QBSPHostApplication.h"
+#import "QBSPHostDelegate.h"
+
+#include <cstdio>
+
+using quarrybook::Edition;
+using quarrybook::Mistake;
+using quarrybook::Options;
+
+namespace {
+
+// AppKit takes every word that it does not know for a file to open, and must not see our own options.
+void hideOptionsFromAppKit(char* program, const Options& options, char** environment) {
+    std::vector<char*> words{program};
+    for (const std::string& word : options.forAppKit)
+        words.push_back(const_cast<char*>(word.c_str()));
+    [NSProcessInfo initializeWithArguments:words.data()
+                                     count:static_cast<int>(words.size())
+                               environment:environment];
+}
+
+void runApplication(const Options& options) {
+    auto* application = static_cast<QBSPHostApplication*>([QBSPHostApplication sharedApplication]);
+    [application setSandboxed:options.sandboxed ? YES : NO];
+    [application setPro:options.edition == Edition::full ? YES : NO];
+    QBSPHostDelegate* delegate = [[QBSPHostDelegate alloc] initWithCommandLine:&options];
+    [application setDelegate:(id)delegate];
+    [application run];
+    [delegate release];
+}
+
+} // namespace
+
+int main(int count, char** words, char** environment) {
+    const auto parsed = quarrybook::parseOptions({words + 1, words + count});
+    if (const auto* mistake = std::get_if<Mistake>(&parsed)) {
+        std::fprintf(stderr, "Quarrybook: %s\n", mistake->text.c_str());
+        return 2;
+    }
+    const auto& options = std::get<Options>(parsed);
+    if (options.help) {
+        std::fputs(quarrybook::usage().c_str(), stdout);
+        return 0;
+    }
+    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+    hideOptionsFromAppKit(words[0], options, environment);
+    [NSUserDefaults standardUserDefaults]; // must exist before any other view of the defaults
+    runApplication(options);
+    [pool release];
+    return 0;
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace standin {
+
+/// What the Sorter tells: one line each, on standard output and at the end of a file. Other programs may read
+/// both while it runs.
+class EventLog {
+public:
+    /// The file that $QUARRYBOOK_SORTER_LOG names, else one among the user's logs.
+    static EventLog ofUser();
+
+    explicit EventLog(std::filesystem::path file) : file_(std::move(file)) {}
+
+    /// Writes the line at once. A file that cannot be written stays without it.
+    void tell(const std::string& line) const;
+
+private:
+    std::filesystem::path file_;
+};
+
+} // namespace standin

@@ -1,0 +1,33 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+/// Told of the host's notices.
+@protocol QBSPHostNotices
+
+/// The host of that name stored other hot keys.
+- (void)hotKeysChanged:(NSNotification*)notice;
+
+/// The user has left the host's pane after changing hot keys.
+- (void)preferencesUpdated:(NSNotification*)notice;
+
+/// The host wrote another list of applications in whose full-screen mode the Sorter hides.
+- (void)hideListUpdated:(NSNotification*)notice;
+
+/// The notification daemon had died; from now on notices arrive again.
+- (void)listensAgain;
+
+@end
+
+/// Listens to what any host's pane posts, also when the notification daemon has to be started anew.
+@interface QBSPHostListener : NSObject {
+    id<QBSPHostNotices> receiver;
+}
+
+/// The receiver is not retained.
+- (id)initWithReceiver:(id<QBSPHostNotices>)aReceiver;
+
+/// Begins to listen.
+- (void)listen;
+
+@end

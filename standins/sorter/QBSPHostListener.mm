@@ -1,0 +1,47 @@
+#import "QBSPHostListener.h"
+
+static const NSTimeInterval timeBetweenAttempts = 0.5;
+
+static void addObserver(id receiver, SEL message, NSString* notice) {
+    [[NSDistributedNotificationCenter defaultCenter]
+               addObserver:receiver
+                  selector:message
+                      name:notice
+                    object:nil
+        suspensionBehavior:NSNotificationSuspensionBehaviorDeliverImmediately];
+}
+
+@implementation QBSPHostListener
+
+- (id)initWithReceiver:(id<QBSPHostNotices>)aReceiver {
+    if ((self = [super init]) != nil) {
+        receiver = aReceiver;
+        [[NSNotificationCenter defaultCenter] addObserver:self
+                                                 selector:@selector(connectionDied:)
+                                                     name:NSConnectionDidDieNotification
+                                                   object:nil];
+    }
+    return self;
+}
+
+- (void)listen {
+    [[NSDistributedNotificationCenter defaultCenter] removeObserver:receiver];
+    addObserver(receiver, @selector(hotKeysChanged:), @"QBSSorterShortcutKeysChanged");
+    addObserver(receiver, @selector(preferencesUpdated:), @"QBSSorterPreferencesUpdated");
+    addObserver(receiver, @selector(hideListUpdated:), @"QBSSorterHideAppUpdated");
+}
+
+- (void)listenAgain {
+    // Should the daemon not answer, this raises before the next attempt is called off.
+    [self performSelector:_cmd withObject:nil afterDelay:timeBetweenAttempts];
+    [self listen];
+    [NSObject cancelPreviousPerformRequestsWithTarget:self selector:_cmd object:nil];
+    [receiver listensAgain];
+}
+
+// The daemon forgets its observers when it dies. The centre must notice first that it is gone.
+- (void)connectionDied:(NSNotification*)notification {
+    [self performSelector:@selector(listenAgain) withObject:nil afterDelay:0];
+}
+
+@end

@@ -1,0 +1,13 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+/// Lets the application terminate when its process is asked to. AppKit's own answer to that signal runs
+/// wherever the signal interrupts, and may wait for ever for a lock that the interrupted code holds; this one
+/// is left to the run loop.
+@interface QBSPQuitRequest : NSObject
+
+/// From now on answers the signal. The application must exist.
++ (void)heed;
+
+@end

@@ -1,0 +1,13 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+/// The "Quarrybook" tab at the right border of the screen.
+@interface QBSPTab : NSWindow
+
+- (id)init;
+
+/// Shows the tab without taking the keyboard from anyone, or hides it.
+- (void)setVisible:(BOOL)visible;
+
+@end

@@ -1,0 +1,33 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#include <string>
+
+namespace standin {
+
+/// What the Sorter and the host share, read afresh from the files with every question.
+class Stores {
+  public:
+    /// The stores of the Sorter of that bundle identifier.
+    explicit Stores(NSString* identifier) : identifier_(identifier) {}
+
+    /// Reads the host's hot keys and, in the embedded Sorter, the one in the shared folder: "key=value ...".
+    [[nodiscard]] std::string hotKeys(NSString* host) const;
+
+    /// Reads whether the host wants the tab hidden: "key=value".
+    [[nodiscard]] std::string visibility(NSString* host) const;
+
+    /// True when the tab is to be seen.
+    [[nodiscard]] bool tabIsVisible(NSString* host) const;
+
+    /// Reads the list of applications in whose full-screen mode the Sorter hides: "key=value".
+    [[nodiscard]] std::string hideList() const;
+
+  private:
+    [[nodiscard]] bool isEmbedded() const;
+
+    NSString* identifier_;
+};
+
+} // namespace standin

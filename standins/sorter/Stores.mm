@@ -1,0 +1,68 @@
+#include "Stores.h"
+
+#include "Description.h"
+#include "xdg/UserFolders.h"
+
+#include <array>
+
+namespace standin {
+
+namespace {
+
+NSString* const group = @"Z3K8WQ4N7P.quarry2";
+NSString* const clipHotKeyFile = @"clipHotKey.dictionary";
+NSString* const tabIsInvisible = @"SorterTabIsInvisible";
+NSString* const hiddenApplications = @"UserSpecifiedFullScreenApplications";
+const std::array<NSString*, 4> hotKeyKeys{@"Sorter.ClipHotKeyCode", @"Sorter.ClipHotKeyModifiers",
+                                          @"Sorter.NoteHotKeyCode", @"Sorter.NoteHotKeyModifiers"};
+
+// Only an instance of its own sees what another process wrote.
+id valueInDomain(NSString* domain, NSString* key) {
+    NSUserDefaults* defaults = [[[NSUserDefaults alloc] init] autorelease];
+    [defaults synchronize];
+    return [[defaults persistentDomainForName:domain] objectForKey:key];
+}
+
+std::string reading(NSString* key, id value) {
+    return std::string([key UTF8String]) + "=" + description(value);
+}
+
+id sharedClipHotKey() {
+    const auto file =
+        xdg::dataHome() / "Group Containers" / [group UTF8String] / "Sorter" / [clipHotKeyFile UTF8String];
+    NSData* data = [NSData dataWithContentsOfFile:[NSString stringWithUTF8String:file.c_str()]];
+    if (data == nil)
+        return nil;
+    return [NSPropertyListSerialization propertyListWithData:data
+                                                     options:NSPropertyListImmutable
+                                                      format:nullptr
+                                                       error:nullptr];
+}
+
+} // namespace
+
+std::string Stores::hotKeys(NSString* host) const {
+    std::string all;
+    for (NSString* key : hotKeyKeys)
+        all += (all.empty() ? "" : " ") + reading(key, valueInDomain(host, key));
+    return isEmbedded() ? all + " " + reading(clipHotKeyFile, sharedClipHotKey()) : all;
+}
+
+std::string Stores::visibility(NSString* host) const {
+    return reading(tabIsInvisible, valueInDomain(host, tabIsInvisible));
+}
+
+bool Stores::tabIsVisible(NSString* host) const {
+    id invisible = valueInDomain(host, tabIsInvisible);
+    return ![invisible respondsToSelector:@selector(boolValue)] || ![invisible boolValue];
+}
+
+std::string Stores::hideList() const {
+    return reading(hiddenApplications, valueInDomain(identifier_, hiddenApplications));
+}
+
+bool Stores::isEmbedded() const {
+    return [identifier_ hasPrefix:group];
+}
+
+} // namespace standin

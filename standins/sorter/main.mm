@@ -1,0 +1,18 @@
+#import "QBSPQuitRequest.h"
+#import "QBSPSorter.h"
+
+#include <csignal>
+
+int main() {
+    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+    // Whoever reads its output may go at any time.
+    std::signal(SIGPIPE, SIG_IGN);
+    // Its only window is the tab.
+    [[NSUserDefaults standardUserDefaults]
+        registerDefaults:[NSDictionary dictionaryWithObject:@"YES" forKey:@"GSSuppressAppIcon"]];
+    [[NSApplication sharedApplication] setDelegate:[[QBSPSorter alloc] init]];
+    [QBSPQuitRequest heed];
+    [NSApp run];
+    [pool release];
+    return 0;
+}
