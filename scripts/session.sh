@@ -1,0 +1,84 @@
+# A session of its own for GNUstep programs: defaults, notifications and running applications apart from the user's,
+# a display when there is none. For the scripts that source it.
+
+# Makes everything that is started from now on live in that home. Ends with the shell.
+session_start() { # HOME
+    local home=$1
+    # Sockets lie in TEMP, and their paths must be short.
+    session_temp=$(mktemp -d /tmp/qb.XXXXXX)
+    trap session_end EXIT
+    trap 'exit 130' INT
+    trap 'exit 143' TERM
+    mkdir -p "$home/GNUstep/Defaults" "$home/GNUstep/Library/Bundles" "$home/GNUstep/Applications"
+    sed -e "s|^GNUSTEP_USER_CONFIG_FILE=.*|GNUSTEP_USER_CONFIG_FILE=|" \
+        -e "s|^GNUSTEP_USER_DEFAULTS_DIR=.*|GNUSTEP_USER_DEFAULTS_DIR=$home/GNUstep/Defaults|" \
+        -e "s|^GNUSTEP_USER_DIR_LIBRARY=.*|GNUSTEP_USER_DIR_LIBRARY=$home/GNUstep/Library|" \
+        -e "s|^GNUSTEP_USER_DIR_APPS=.*|GNUSTEP_USER_DIR_APPS=$home/GNUstep/Applications|" \
+        /etc/GNUstep/GNUstep.conf >"$session_temp/GNUstep.conf"
+    export HOME=$home TEMP=$session_temp GNUSTEP_CONFIG_FILE=$session_temp/GNUstep.conf
+    export XDG_CONFIG_HOME=$home/.config XDG_DATA_HOME=$home/.local/share XDG_STATE_HOME=$home/.local/state
+    export LC_ALL=C.UTF-8
+}
+
+# Starts a virtual display with the window manager that GNUstep needs.
+session_display() {
+    local number="$session_temp/display"
+    env -u TEMP Xvfb -displayfd 3 -screen 0 1280x1000x24 -nolisten tcp -noreset 3>"$number" >/dev/null 2>&1 &
+    session_server=$!
+    session_wait "the virtual display" test -s "$number"
+    DISPLAY=:$(cat "$number")
+    export DISPLAY
+    openbox --config-file /dev/null >/dev/null 2>&1 &
+    session_wait "the window manager" session_has_manager
+}
+
+session_has_manager() {
+    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
+}
+
+# Waits until the command succeeds, ten seconds at most.
+session_wait() { # WHAT COMMAND...
+    local what=$1 limit=$((SECONDS + 10))
+    shift
+    until "$@"; do
+        if ((SECONDS >= limit)); then
+            echo "$what did not come about" >&2
+            return 1
+        fi
+        sleep 0.05
+    done
+}
+
+# The processes of the session, whoever started them: all bear its TEMP.
+session_processes() {
+    local environment pid
+    for environment in /proc/[0-9]*/environ; do
+        pid=${environment#/proc/}
+        pid=${pid%/environ}
+        if [ "$pid" != $$ ] && tr '\0' '\n' 2>/dev/null <"$environment" | grep -qx "TEMP=$session_temp"; then
+            echo "$pid"
+        fi
+    done 2>/dev/null
+}
+
+session_is_empty() {
+    [ -z "$(session_processes)" ]
+}
+
+session_signal() { # SIGNAL
+    local pid
+    for pid in $(session_processes); do
+        kill "-$1" "$pid" 2>/dev/null || true
+    done
+}
+
+# Ends every process of the session, the applications before their display.
+session_end() {
+    session_signal TERM
+    session_wait "the end of the session" session_is_empty 2>/dev/null || session_signal KILL
+    if [ -n "${session_server-}" ]; then
+        kill "$session_server" 2>/dev/null || true
+        wait "$session_server" 2>/dev/null || true
+    fi
+    rm -rf "$session_temp"
+}
