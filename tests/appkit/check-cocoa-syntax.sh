@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Checks the syntax of everything in src/appkit that is built on macOS, for both of its processors, by clang against
+# GNUstep's headers and declarations of what only Cocoa has. Unknown messages and functions are errors.
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+shim="$root/tests/appkit/cocoa-shim"
+clang_headers=$(clang++ -print-resource-dir)/include
+gcc_headers=$(dirname "$(gcc -print-file-name=include/objc/objc.h)")/..
+system=/usr/include/x86_64-linux-gnu
+standard=/usr/include/c++/12
+
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+
+compile() { # ARCHITECTURE CONFIGURATION ARGUMENT...
+    local architecture=$1 configuration=$2
+    shift 2
+    clang++ -target "$architecture-apple-macosx10.13" -U__APPLE__ -U__MACH__ -U__nonnull -D__linux__ -D__unix__ \
+        -D__gnu_linux__ -D_GNU_SOURCE -D__ELF__ -Wno-everything -Werror=objc-method-access -fblocks -fobjc-exceptions \
+        -std=c++20 -nostdinc -nostdinc++ -isystem "$shim" -isystem "$standard" \
+        -isystem "$system/c++/12/$configuration" -isystem "$clang_headers" -isystem "$system" -isystem /usr/include \
+        -idirafter "$gcc_headers" -isystem /usr/include/GNUstep -I "$root/src" "$@"
+}
+
+check() { # ARCHITECTURE CONFIGURATION FILE
+    compile "$1" "$2" -include-pch "$folder/$1.pch" -x objective-c++ -fsyntax-only "$3" ||
+        echo "${3#"$root"/}: not accepted for $1"
+}
+
+check_all() { # ARCHITECTURE CONFIGURATION
+    local file
+    compile "$1" "$2" -x objective-c++-header "$shim/declarations.h" -o "$folder/$1.pch"
+    while read -r file; do
+        check "$1" "$2" "$file"
+    done < <(find "$root/src/appkit" -name '*.mm' -not -path '*/gnustep/*' | sort)
+}
+
+check_all x86_64 . >"$folder/x86_64.log" 2>&1 &
+check_all i386 32 >"$folder/i386.log" 2>&1
+wait $!
+cat "$folder"/*.log
+[ ! -s "$folder/x86_64.log" ] && [ ! -s "$folder/i386.log" ]

@@ -1,0 +1,17 @@
+#include <gtest/gtest.h>
+
+#import <AppKit/AppKit.h>
+
+int main(int argc, char** argv) {
+    NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
+    // The shared defaults must exist before any other instance.
+    [NSUserDefaults standardUserDefaults];
+    testing::InitGoogleTest(&argc, argv);
+    // A handler of C++ exceptions in the way of an Objective-C one would end the process.
+    GTEST_FLAG_SET(catch_exceptions, false);
+    [NSApplication sharedApplication];
+    [NSApp finishLaunching];
+    const int failed = RUN_ALL_TESTS();
+    [pool release];
+    return failed;
+}

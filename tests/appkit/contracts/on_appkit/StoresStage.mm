@@ -1,0 +1,99 @@
+#include "stages/StoresStage.h"
+
+#include "appkit/Preferences.h"
+#include "appkit/PropertyLists.h"
+#include "appkit/UserDefaults.h"
+
+#include <gtest/gtest.h>
+
+#import <Foundation/Foundation.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <sys/resource.h>
+
+namespace qbsp::contracts {
+
+namespace fs = std::filesystem;
+
+using platform::Dictionary;
+
+namespace {
+
+const fs::path& folder() {
+    static const fs::path path = fs::path(std::getenv("HOME")) / "GNUstep/Defaults";
+    return path;
+}
+
+/// A disk on which no file can grow.
+class FullDisk {
+public:
+    FullDisk() {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit none{0, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit before_{};
+};
+
+NSString* hostDomain() {
+    return [[NSProcessInfo processInfo] processName];
+}
+
+class AppKitStage final : public StoresStage {
+public:
+    ~AppKitStage() override {
+        [[NSUserDefaults standardUserDefaults] removePersistentDomainForName:hostDomain()];
+        [[NSUserDefaults standardUserDefaults] synchronize];
+        for (const auto& file : fs::directory_iterator(folder()))
+            if (file.path().extension() == ".plist")
+                fs::remove(file);
+    }
+
+    platform::Preferences& preferences() override { return *preferences_; }
+
+    platform::UserDefaults& userDefaults() override { return userDefaults_; }
+
+    void otherProcessSets(const std::string& domain, const std::string& key,
+                          const platform::Value& value) override {
+        Dictionary contents = domainSeenByOthers(domain);
+        contents[key] = value;
+        const auto file = platform::URL::fileURLWithPath(fileOf(domain));
+        EXPECT_TRUE(appkit::AppKitPropertyLists().writeToURL(contents, file, platform::Atomically::yes));
+    }
+
+    Dictionary domainSeenByOthers(const std::string& domain) override {
+        return appkit::AppKitPropertyLists().dictionaryWithContentsOfFile(fileOf(domain)).value_or(Dictionary());
+    }
+
+    Dictionary defaultsSeenByOthers() override { return domainSeenByOthers([hostDomain() UTF8String]); }
+
+    bool flushInVain(const std::function<void()>& set, const std::function<bool()>& flush) override {
+        const FullDisk disk;
+        set();
+        return flush();
+    }
+
+private:
+    static std::string fileOf(const std::string& domain) { return folder() / (domain + ".plist"); }
+
+    std::unique_ptr<platform::Preferences> preferences_ = appkit::makePreferences();
+    appkit::AppKitUserDefaults userDefaults_;
+};
+
+} // namespace
+
+std::unique_ptr<StoresStage> StoresStage::appKit() {
+    return std::make_unique<AppKitStage>();
+}
+
+} // namespace qbsp::contracts

@@ -1,0 +1,134 @@
+#include "xdg/Autostart.h"
+
+#include "TemporaryFolder.h"
+#include "xdg/UserFolders.h"
+#include "xdg/WholeFile.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace xdg {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const DesktopEntry sorter{"Quarrybook Sorter", "/opt/Quarrybook Sorter"};
+const std::string identifier = "com.quarrybook.Sorter";
+
+std::string textOf(const fs::path& file) {
+    std::ifstream stream(file);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+std::ptrdiff_t filesIn(const fs::path& folder) {
+    return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+}
+
+class AutostartFolder : public testing::Test {
+protected:
+    const TemporaryFolder temporary;
+    const fs::path folder = temporary.path() / "config" / "autostart";
+    const fs::path file = folder / "com.quarrybook.Sorter.desktop";
+    const Autostart autostart{folder};
+};
+
+} // namespace
+
+TEST_F(AutostartFolder, IsMadeWhenItIsMissing) {
+    EXPECT_TRUE(autostart.add(identifier, sorter));
+
+    EXPECT_EQ(textOf(file), desktopEntryText(sorter));
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
+TEST_F(AutostartFolder, TellsTheProgramThatItStarts) {
+    EXPECT_EQ(autostart.program(identifier), std::nullopt);
+
+    ASSERT_TRUE(autostart.add(identifier, sorter));
+
+    EXPECT_EQ(autostart.program(identifier), sorter.program);
+    EXPECT_EQ(autostart.program("com.quarrybook.SoloSorter"), std::nullopt);
+}
+
+TEST_F(AutostartFolder, ForgetsWhatIsRemovedAndIsContentWhenNothingIsThere) {
+    ASSERT_TRUE(autostart.add(identifier, sorter));
+
+    EXPECT_TRUE(autostart.remove(identifier));
+    EXPECT_TRUE(autostart.remove(identifier));
+
+    EXPECT_EQ(autostart.program(identifier), std::nullopt);
+    EXPECT_EQ(filesIn(folder), 0);
+}
+
+TEST_F(AutostartFolder, HoldsAnEntryThatTheUserSwitchedOffUntilItIsAddedAgain) {
+    ASSERT_TRUE(writeWhole(file, desktopEntryText(sorter) + "Hidden=true\n"));
+    EXPECT_EQ(autostart.program(identifier), std::nullopt);
+
+    ASSERT_TRUE(autostart.add(identifier, sorter));
+
+    EXPECT_EQ(autostart.program(identifier), sorter.program);
+}
+
+TEST_F(AutostartFolder, RefusesWhenItCannotBeMade) {
+    ASSERT_TRUE(writeWhole(temporary.path() / "config", "a file where the folder should be"));
+
+    EXPECT_FALSE(autostart.add(identifier, sorter));
+    EXPECT_EQ(autostart.program(identifier), std::nullopt);
+    EXPECT_EQ(textOf(temporary.path() / "config"), "a file where the folder should be");
+}
+
+TEST_F(AutostartFolder, RefusesWhenAFolderStandsInTheEntrysPlaceAndLeavesNothingBehind) {
+    fs::create_directories(file / "full");
+
+    EXPECT_FALSE(autostart.add(identifier, sorter));
+    EXPECT_EQ(autostart.program(identifier), std::nullopt);
+    EXPECT_FALSE(autostart.remove(identifier));
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
+TEST_F(AutostartFolder, IsReplacedAsAWholeFileThatOthersMayRead) {
+    ASSERT_TRUE(writeWhole(file, std::string(100'000, 'x')));
+    fs::create_hard_link(file, folder / "earlier");
+
+    ASSERT_TRUE(autostart.add(identifier, sorter));
+
+    EXPECT_EQ(textOf(folder / "earlier"), std::string(100'000, 'x')) << "the old file was written into";
+    EXPECT_EQ(textOf(file), desktopEntryText(sorter));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
+}
+
+TEST(UserFolders, AreWhatTheEnvironmentSays) {
+    setenv("XDG_CONFIG_HOME", "/elsewhere/config", 1);
+    setenv("XDG_DATA_HOME", "/elsewhere/data", 1);
+    setenv("XDG_STATE_HOME", "/elsewhere/state", 1);
+
+    EXPECT_EQ(configHome(), "/elsewhere/config");
+    EXPECT_EQ(dataHome(), "/elsewhere/data");
+    EXPECT_EQ(stateHome(), "/elsewhere/state");
+}
+
+TEST(UserFolders, LieInTheHomeFolderWhenTheEnvironmentSaysNothingValid) {
+    setenv("HOME", "/home/a", 1);
+    unsetenv("XDG_CONFIG_HOME");
+    setenv("XDG_DATA_HOME", "", 1);
+    setenv("XDG_STATE_HOME", "not/absolute", 1);
+
+    EXPECT_EQ(configHome(), "/home/a/.config");
+    EXPECT_EQ(dataHome(), "/home/a/.local/share");
+    EXPECT_EQ(stateHome(), "/home/a/.local/state");
+}
+
+TEST(UserFolders, FallBackOnTheAccountsHomeFolder) {
+    unsetenv("XDG_CONFIG_HOME");
+    unsetenv("HOME");
+
+    EXPECT_TRUE(configHome().is_absolute());
+    EXPECT_EQ(configHome().filename(), ".config");
+}
+
+} // namespace xdg

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+/// True as soon as the condition holds; false when it does not within ten seconds. The run loop runs
+/// meanwhile.
+[[nodiscard]] bool eventually(const std::function<bool()>& condition);
+
+/// The text of the file; empty when there is none.
+[[nodiscard]] std::string textOf(const std::filesystem::path& file);
+
+/// A test with real applications in a session of its own. None of them outlives it.
+class RealSession : public testing::Test {
+protected:
+    RealSession();
+    ~RealSession() override;
+
+    /// Makes the bundle <name>.app of that identifier, with an executable that does nothing for a minute.
+    /// Answers the executable's path.
+    [[nodiscard]] std::filesystem::path makeApplication(const std::string& name,
+                                                        const std::string& identifier) const;
+
+    /// Executes the file; answers the process. The test is its parent, and takes no notice of its end.
+    pid_t execute(const std::filesystem::path& file, std::vector<std::string> arguments = {});
+
+    /// Executes a file that makeApplication() made, or a copy of it.
+    pid_t executeIdle(const std::filesystem::path& file) { return execute(file, {"60"}); }
+
+    /// Kills the process, and returns once it has ended.
+    static void killAndAwait(pid_t pid);
+
+    const std::filesystem::path folder;
+
+private:
+    std::vector<pid_t> children_;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+/// A folder that a test has to itself, and that goes with it.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string pattern = std::filesystem::temp_directory_path() / "sorter-pane-XXXXXX";
+        path_ = mkdtemp(pattern.data());
+    }
+
+    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};

@@ -1,0 +1,227 @@
+#include "appkit/Workspace.h"
+
+#include "RealSession.h"
+#include "appkit/RunningApplications.h"
+
+#import <AppKit/AppKit.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <map>
+
+namespace qbsp::appkit {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr platform::NotificationName didTerminate{"NSWorkspaceDidTerminateApplicationNotification"};
+constexpr auto withoutActivation = platform::LaunchOptions::withoutActivation;
+const std::string sorterIdentifier = "com.quarrybook.Sorter";
+
+class Observer final : public platform::TerminationObserver {
+  public:
+    void appDied(const platform::Notification& notification) override {
+        reported.push_back(platform::stringEntry(notification.userInfo, "NSApplicationBundleIdentifier")
+                               .value_or("nothing"));
+        if (then)
+            then();
+    }
+
+    [[nodiscard]] std::ptrdiff_t reportsOf(const std::string& identifier) const {
+        return std::count(reported.begin(), reported.end(), identifier);
+    }
+
+    std::vector<std::string> reported;
+    std::function<void()> then;
+};
+
+class WorkspaceCheck : public RealSession {
+  protected:
+    [[nodiscard]] std::shared_ptr<platform::RunningApplication> launchSorter() {
+        auto launched = workspace.launchApplicationAtURL(platform::URL::fileURLWithPath(SORTER_BUNDLE),
+                                                         withoutActivation);
+        EXPECT_EQ(launched.error, std::nullopt);
+        return launched.application;
+    }
+
+    [[nodiscard]] static bool sorterRuns() {
+        return AppKitRunningApplications().applicationIsRunning({sorterIdentifier});
+    }
+
+    [[nodiscard]] static std::string sorterLog() {
+        return textOf(fs::path(std::getenv("XDG_STATE_HOME")) / "quarrybook" / "sorter.log");
+    }
+
+    /// Starts another application; observers that are added later know it.
+    void startAnother(const std::string& name) {
+        const std::string identifier = "org.example." + name;
+        others_[name] = executeIdle(makeApplication(name, identifier));
+        ASSERT_TRUE(
+            eventually([&] { return AppKitRunningApplications().applicationIsRunning({identifier}); }));
+    }
+
+    /// Kills the other application; returns once the observer was told.
+    void endAnother(const std::string& name, const Observer& told) {
+        killAndAwait(others_[name]);
+        EXPECT_TRUE(eventually([&] { return told.reportsOf("org.example." + name) == 1; }));
+    }
+
+    AppKitWorkspace workspace;
+    const std::shared_ptr<Observer> observer = std::make_shared<Observer>();
+
+  private:
+    std::map<std::string, pid_t> others_;
+};
+
+} // namespace
+
+TEST_F(WorkspaceCheck, LaunchesAnApplicationAndAsksItToQuit) {
+    const auto sorter = launchSorter();
+    ASSERT_NE(sorter, nullptr);
+    ASSERT_TRUE(eventually([] { return sorterLog().find("started com.quarrybook.Sorter\n") == 0; }));
+    EXPECT_TRUE(sorterRuns());
+
+    EXPECT_TRUE(sorter->terminate());
+
+    EXPECT_TRUE(eventually([] { return !sorterRuns(); }));
+    EXPECT_TRUE(sorterLog().ends_with("quitting\n"));
+}
+
+TEST_F(WorkspaceCheck, TakesTheApplicationThatRunsAlready) {
+    const auto first = launchSorter();
+    ASSERT_NE(first, nullptr);
+    ASSERT_TRUE(eventually([] { return !sorterLog().empty(); }));
+
+    const auto second = launchSorter();
+    ASSERT_NE(second, nullptr);
+    EXPECT_TRUE(second->terminate());
+
+    EXPECT_TRUE(eventually([] { return !sorterRuns(); }));
+    EXPECT_FALSE(first->terminate());
+}
+
+TEST_F(WorkspaceCheck, SaysWhatIsMissingWhenItCannotLaunch) {
+    const auto bundle = makeApplication("Hollow", "org.example.Hollow").parent_path();
+    fs::remove(bundle / "Hollow");
+
+    const auto nowhere = workspace.launchApplicationAtURL(
+        platform::URL::fileURLWithPath(folder / "Nowhere.app"), withoutActivation);
+    const auto hollow =
+        workspace.launchApplicationAtURL(platform::URL::fileURLWithPath(bundle), withoutActivation);
+
+    EXPECT_EQ(nowhere.application, nullptr);
+    EXPECT_EQ(nowhere.error, "There is no application at " + (folder / "Nowhere.app").string() + ".");
+    EXPECT_EQ(hollow.application, nullptr);
+    EXPECT_EQ(hollow.error, "The application at " + bundle.string() + " has no executable.");
+}
+
+TEST_F(WorkspaceCheck, AnswersNoWhenTheApplicationToQuitHasGone) {
+    const auto sorter = launchSorter();
+    ASSERT_NE(sorter, nullptr);
+    ASSERT_TRUE(eventually([] { return !sorterLog().empty(); }));
+    EXPECT_TRUE(sorter->terminate());
+    ASSERT_TRUE(eventually([] { return !sorterRuns(); }));
+
+    EXPECT_FALSE(sorter->terminate());
+}
+
+TEST_F(WorkspaceCheck, DoesNotWaitForAnApplicationThatHangs) {
+    setenv("QUARRYBOOK_SORTER_HANGS", "1", 1);
+    execute(fs::path(SORTER_BUNDLE) / "Quarrybook Sorter");
+    unsetenv("QUARRYBOOK_SORTER_HANGS");
+    ASSERT_TRUE(eventually([] { return !sorterLog().empty(); }));
+    const auto sorter = launchSorter();
+    ASSERT_NE(sorter, nullptr);
+
+    EXPECT_TRUE(sorter->terminate());
+
+    EXPECT_TRUE(eventually([] { return sorterLog().ends_with("asked to quit, and hangs\n"); }));
+    EXPECT_TRUE(sorterRuns());
+}
+
+TEST_F(WorkspaceCheck, ReportsAnApplicationThatQuitOnceAfterItHasGone) {
+    startAnother("Mail");
+    bool ranWhenReported = false;
+    observer->then = [&] { ranWhenReported = ranWhenReported || sorterRuns(); };
+    workspace.addObserver(observer, didTerminate);
+    const auto sorter = launchSorter();
+    ASSERT_NE(sorter, nullptr);
+    ASSERT_TRUE(eventually([] { return !sorterLog().empty(); }));
+
+    EXPECT_TRUE(sorter->terminate());
+
+    EXPECT_TRUE(eventually([&] { return observer->reportsOf(sorterIdentifier) > 0; }));
+    EXPECT_FALSE(ranWhenReported);
+    endAnother("Mail", *observer);
+    EXPECT_EQ(observer->reportsOf(sorterIdentifier), 1);
+}
+
+TEST_F(WorkspaceCheck, ReportsAKilledApplicationOnce) {
+    startAnother("Mail");
+    const pid_t pid = execute(fs::path(SORTER_BUNDLE) / "Quarrybook Sorter");
+    ASSERT_TRUE(eventually([] { return !sorterLog().empty(); }));
+    workspace.addObserver(observer, didTerminate);
+
+    killAndAwait(pid);
+
+    EXPECT_TRUE(eventually([&] { return observer->reportsOf(sorterIdentifier) > 0; }));
+    endAnother("Mail", *observer);
+    EXPECT_EQ(observer->reportsOf(sorterIdentifier), 1);
+}
+
+TEST_F(WorkspaceCheck, ReportsNothingToAnObserverThatWasRemoved) {
+    startAnother("Mail");
+    const auto other = std::make_shared<Observer>();
+    workspace.addObserver(observer, didTerminate);
+    workspace.addObserver(observer, didTerminate);
+    workspace.addObserver(other, didTerminate);
+
+    workspace.removeObserver(*observer);
+
+    endAnother("Mail", *other);
+    EXPECT_TRUE(observer->reported.empty());
+    workspace.removeObserver(*observer);
+}
+
+TEST_F(WorkspaceCheck, LetsAnObserverRemoveItselfWhileItIsTold) {
+    startAnother("Mail");
+    startAnother("Clock");
+    const auto other = std::make_shared<Observer>();
+    observer->then = [&] { workspace.removeObserver(*observer); };
+    workspace.addObserver(observer, didTerminate);
+    workspace.addObserver(other, didTerminate);
+
+    endAnother("Mail", *other);
+    endAnother("Clock", *other);
+
+    EXPECT_EQ(observer->reported.size(), 1U);
+}
+
+TEST_F(WorkspaceCheck, DoesNotKeepItsObserverAlive) {
+    startAnother("Mail");
+    auto gone = std::make_shared<Observer>();
+    const std::weak_ptr<Observer> left = gone;
+    workspace.addObserver(gone, didTerminate);
+    workspace.addObserver(observer, didTerminate);
+
+    gone.reset();
+
+    EXPECT_TRUE(left.expired());
+    endAnother("Mail", *observer);
+}
+
+TEST_F(WorkspaceCheck, PassesOnANoticeThatNamesItsApplication) {
+    workspace.addObserver(observer, didTerminate);
+
+    [[[NSWorkspace sharedWorkspace] notificationCenter]
+        postNotificationName:NSWorkspaceDidTerminateApplicationNotification
+                      object:nil
+                    userInfo:[NSDictionary dictionaryWithObject:@"org.example.Mail"
+                                                         forKey:@"NSApplicationBundleIdentifier"]];
+
+    EXPECT_TRUE(eventually([&] { return !observer->reported.empty(); }));
+    EXPECT_EQ(observer->reported, std::vector<std::string>{"org.example.Mail"});
+}
+
+} // namespace qbsp::appkit

@@ -1,0 +1,165 @@
+"""A desktop session of a test's own: home, defaults, notification daemon, display. Nothing of it is left afterwards."""
+
+import os
+import pathlib
+import plistlib
+import re
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+BUILD = pathlib.Path(os.environ["BUILD_FOLDER"])
+QUARRYBOOK = BUILD / "bin/Quarrybook.app/Quarrybook"
+PANE = BUILD / "SorterPane.prefPane"
+SORTER = "com.quarrybook.Sorter"
+SOLO_SORTER = "com.quarrybook.SoloSorter"
+HIDE_LIST = "UserSpecifiedFullScreenApplications"
+LIMIT = 20
+
+
+def wait_until(condition, what):
+    """Answers the first true value of the condition; fails when none comes in time."""
+    deadline = time.monotonic() + LIMIT
+    while time.monotonic() < deadline:
+        value = condition()
+        if value:
+            return value
+        time.sleep(0.02)
+    raise AssertionError(f"{what} did not come about")
+
+
+class Session:
+    def __init__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="qb.", dir="/tmp"))
+        self.home = self.folder / "home"
+        self.defaults = self.home / "GNUstep/Defaults"
+        self.temp = self.folder / "t"
+        self.environment = self._environment()
+        for folder in (self.defaults, self.home / "GNUstep/Library/Bundles", self.temp):
+            folder.mkdir(parents=True)
+        self._write_configuration()
+        self.server = None
+        self.manager = None
+
+    def __enter__(self):
+        self._start_display()
+        return self
+
+    def __exit__(self, *_):
+        self.end()
+
+    # --- What programs see
+
+    def _environment(self):
+        kept = {name: value for name, value in os.environ.items()
+                if not name.startswith(("GNUSTEP_", "XDG_", "QUARRYBOOK_"))}
+        return kept | {
+            "HOME": str(self.home),
+            "TEMP": str(self.temp),
+            "GNUSTEP_CONFIG_FILE": str(self.folder / "GNUstep.conf"),
+            "XDG_CONFIG_HOME": str(self.home / ".config"),
+            "XDG_DATA_HOME": str(self.home / ".local/share"),
+            "XDG_STATE_HOME": str(self.home / ".local/state"),
+            "LC_ALL": "C.UTF-8",
+        }
+
+    def _write_configuration(self):
+        own = {
+            "GNUSTEP_USER_CONFIG_FILE": "",
+            "GNUSTEP_USER_DEFAULTS_DIR": self.defaults,
+            "GNUSTEP_USER_DIR_LIBRARY": self.home / "GNUstep/Library",
+            "GNUSTEP_USER_DIR_APPS": self.home / "GNUstep/Applications",
+        }
+        text = pathlib.Path("/etc/GNUstep/GNUstep.conf").read_text()
+        for name, value in own.items():
+            text = re.sub(rf"(?m)^{name}=.*$", f"{name}={value}", text)
+        (self.folder / "GNUstep.conf").write_text(text)
+
+    def _start_display(self):
+        reader, writer = os.pipe()
+        command = ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x1000x24", "-nolisten", "tcp",
+                   "-noreset"]  # else the server starts over whenever its last client goes
+        self.server = subprocess.Popen(command, pass_fds=[writer], stdout=subprocess.DEVNULL,
+                                       stderr=subprocess.DEVNULL)
+        os.close(writer)
+        with os.fdopen(reader) as numbers:
+            self.environment["DISPLAY"] = ":" + numbers.readline().strip()
+        self.manager = subprocess.Popen(["openbox", "--config-file", "/dev/null"], env=self.environment,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(self._has_window_manager, "the window manager")
+
+    def _has_window_manager(self):
+        root = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.environment,
+                              capture_output=True, text=True)
+        return "window id" in root.stdout
+
+    # --- Programs
+
+    def start(self, *command):
+        return subprocess.Popen([str(word) for word in command], env=self.environment, text=True,
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+
+    def run(self, *command):
+        return subprocess.run([str(word) for word in command], env=self.environment, text=True,
+                              capture_output=True, timeout=60)
+
+    def scenario(self, *lines):
+        path = self.folder / "test.scenario"
+        path.write_text("\n".join(lines) + "\n")
+        return path
+
+    def play(self, *lines, options=()):
+        """Plays the lines in the host; answers what it printed. Fails unless it was played to the end."""
+        played = self.run(QUARRYBOOK, *options, "--play", self.scenario(*lines))
+        assert played.returncode == 0, played.stdout + played.stderr
+        return played.stdout
+
+    def answers(self, *lines, options=()):
+        """The answers of the commands, in order."""
+        return [line[2:] for line in self.play(*lines, options=options).splitlines() if line.startswith("= ")]
+
+    # --- Stores
+
+    def domain_file(self, domain):
+        return self.defaults / f"{domain}.plist"
+
+    def domain(self, domain):
+        with open(self.domain_file(domain), "rb") as file:
+            return plistlib.load(file)
+
+    def set_domain(self, domain, contents):
+        with open(self.domain_file(domain), "wb") as file:
+            plistlib.dump(contents, file)
+
+    # --- The end
+
+    def _processes(self):
+        mark = f"TEMP={self.temp}".encode()
+        for folder in pathlib.Path("/proc").glob("[0-9]*"):
+            try:
+                if mark in (folder / "environ").read_bytes().split(b"\0"):
+                    yield int(folder.name)
+            except OSError:
+                pass
+
+    def processes_named(self, name):
+        return [process for process in self._processes()
+                if pathlib.Path(f"/proc/{process}/comm").read_text().strip() == name]
+
+    def end(self):
+        for process in list(self._processes()):
+            try:
+                os.kill(process, signal.SIGKILL)
+            except ProcessLookupError:
+                pass
+        wait_until(lambda: not self._living(), "the end of the session")
+        for program in filter(None, (self.manager, self.server)):
+            program.kill()
+            program.wait()
+        shutil.rmtree(self.folder)
+
+    def _living(self):
+        return [process for process in self._processes()
+                if "\nState:\tZ" not in pathlib.Path(f"/proc/{process}/status").read_text()]

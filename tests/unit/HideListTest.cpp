@@ -1,0 +1,166 @@
+#include "hidelist/HideList.h"
+
+#include "simulated/SimulatedStrings.h"
+
+#include <gtest/gtest.h>
+
+namespace qbsp {
+
+namespace {
+
+const simulated::SimulatedStrings strings;
+
+HideList listOf(const platform::Dictionary& hideFlags) {
+    HideList list(strings);
+    list.load(hideFlags);
+    return list;
+}
+
+std::vector<std::string> names(const HideList& list) {
+    std::vector<std::string> all;
+    for (const auto& record : list.records())
+        all.push_back(record->appName);
+    return all;
+}
+
+std::shared_ptr<HideAppInfo> recordOf(const char* name) {
+    return std::make_shared<HideAppInfo>(HideAppInfo{name, false});
+}
+
+} // namespace
+
+TEST(HideList, DoesNotExistBeforeItsFirstLoad) {
+    const HideList list(strings);
+
+    EXPECT_FALSE(list.exists());
+    EXPECT_TRUE(list.records().empty());
+    EXPECT_EQ(list.hideFlags(), platform::Dictionary{});
+}
+
+TEST(HideList, ExistsAlsoWhenAnEmptyListWasLoaded) {
+    EXPECT_TRUE(listOf({}).exists());
+}
+
+TEST(HideList, IsSortedIgnoringCase) {
+    const HideList list = listOf({{"Zebra", true}, {"apple", false}, {"Mango", true}});
+
+    EXPECT_EQ(names(list), (std::vector<std::string>{"apple", "Mango", "Zebra"}));
+}
+
+TEST(HideList, IsSortedByCharactersAndNotByBytes) {
+    const HideList list = listOf({{"été", true}, {"ÉTÉ", true}, {"zoo", true}, {"Être", true}});
+
+    EXPECT_EQ(names(list).front(), "zoo");
+    EXPECT_EQ(names(list).back(), "Être");
+}
+
+TEST(HideList, KeepsTheStoredFlagsInTheirKinds) {
+    const platform::Dictionary stored{{"a", true}, {"b", "YES"}, {"c", 2.5}, {"d", platform::Array{1}}};
+
+    EXPECT_EQ(listOf(stored).hideFlags(), stored);
+}
+
+TEST(HideList, IsReplacedWholeByTheNextLoad) {
+    HideList list = listOf({{"Mail", true}});
+
+    list.load({{"Player", false}});
+
+    EXPECT_EQ(names(list), std::vector<std::string>{"Player"});
+}
+
+TEST(HideList, FindsIgnoringCase) {
+    const HideList list = listOf({{"apple", true}, {"Mango", true}, {"Ärger", true}});
+
+    EXPECT_EQ(list.indexOf("MANGO"), 1);
+    EXPECT_EQ(list.indexOf("äRGER"), 2);
+}
+
+TEST(HideList, FindsTheFirstOfSeveral) {
+    const HideList list = listOf({{"MAIL", true}, {"mail", true}, {"apple", true}});
+
+    EXPECT_EQ(list.indexOf("Mail"), 1);
+}
+
+TEST(HideList, NeitherTrimsNorNormalisesWhatItSearches) {
+    const HideList list = listOf({{"Mail", true}, {"é", true}});
+
+    EXPECT_EQ(list.indexOf("Mail "), -1);
+    EXPECT_EQ(list.indexOf("e\u0301"), -1);
+    EXPECT_EQ(list.indexOf("Mai"), -1);
+}
+
+TEST(HideList, AnswersMinusOneForANameThatIsNotThere) {
+    EXPECT_EQ(HideList::notFound, -1);
+    EXPECT_EQ(HideList(strings).indexOf("Mail"), -1);
+    EXPECT_EQ(listOf({}).indexOf(""), -1);
+}
+
+TEST(HideList, SortsWhatIsAdded) {
+    HideList list = listOf({{"apple", true}, {"Zebra", true}});
+    const auto mango = recordOf("mango");
+
+    list.add(mango);
+
+    EXPECT_EQ(names(list), (std::vector<std::string>{"apple", "mango", "Zebra"}));
+    EXPECT_EQ(list.indexOf(mango), 1U);
+}
+
+TEST(HideList, TakesNothingWhileItDoesNotExist) {
+    HideList list(strings);
+    const auto mango = recordOf("mango");
+
+    list.add(mango);
+
+    EXPECT_FALSE(list.exists());
+    EXPECT_EQ(list.indexOf(mango), 0U);
+}
+
+TEST(HideList, KnowsRecordsByIdentityAndNotByName) {
+    HideList list = listOf({{"Mail", true}});
+    const auto second = recordOf("Mail");
+
+    list.add(second);
+
+    EXPECT_EQ(list.indexOf(second), 1U);
+}
+
+TEST(HideList, IsEmptiedButGoesOnExisting) {
+    HideList list = listOf({{"Mail", true}});
+
+    list.removeAll();
+
+    EXPECT_TRUE(list.exists());
+    EXPECT_TRUE(list.records().empty());
+}
+
+TEST(HideList, IsNotMadeByEmptyingIt) {
+    HideList list(strings);
+
+    list.removeAll();
+
+    EXPECT_FALSE(list.exists());
+}
+
+TEST(HideList, StoresTheLaterOfTwoRowsWithOneName) {
+    HideList list = listOf({{"Mail", true}});
+    list.add(recordOf("Mail"));
+
+    EXPECT_EQ(list.hideFlags(), (platform::Dictionary{{"Mail", false}}));
+}
+
+TEST(HideList, ThrowsForARowOutsideIt) {
+    EXPECT_THROW(std::ignore = &listOf({{"Mail", true}}).at(1), std::out_of_range);
+    EXPECT_THROW(std::ignore = &HideList(strings).at(0), std::out_of_range);
+}
+
+TEST(HideAppOrder, ComparesNamesIgnoringCase) {
+    const auto order = [](const char* first, const char* second) {
+        return compareStringUsingSelector({first, true}, {second, false}, strings);
+    };
+
+    EXPECT_TRUE(std::is_lt(order("apple", "MANGO")));
+    EXPECT_TRUE(std::is_gt(order("zebra", "MANGO")));
+    EXPECT_TRUE(std::is_eq(order("mango", "MANGO")));
+}
+
+} // namespace qbsp

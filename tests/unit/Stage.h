@@ -1,0 +1,108 @@
+#pragma once
+
+#include "simulated/PaneSession.h"
+#include "simulated/SimulatedPlatform.h"
+
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace qbsp {
+
+/// The identifiers of the Sorters: the two editions' and the embedded one.
+inline constexpr const char* full = "com.quarrybook.Sorter";
+inline constexpr const char* solo = "com.quarrybook.SoloSorter";
+inline constexpr const char* embedded = "Z3K8WQ4N7P.quarry2.QuarrybookSorter";
+
+inline constexpr const char* hideListKey = "UserSpecifiedFullScreenApplications";
+
+/// What transcript() is when nothing was asked of the platform.
+inline constexpr const char* nothing = "\n";
+
+/// A simulated platform with a host on it, and short paths: the registrar's code, and the Sorters beside it,
+/// lie in /PlugIn, the host in /Quarrybook.app.
+class Stage {
+public:
+    Stage() {
+        world.mainBundle = "/Quarrybook.app";
+        world.registrarExecutable = "/PlugIn/SorterPlugin";
+        world.noClassExecutable = "/Host/Quarrybook";
+        world.container = "/Group";
+    }
+
+    [[nodiscard]] QBSPPreferencePane& pane() const { return session.pane(); }
+
+    [[nodiscard]] const PaneControls& controls() const { return pane().controls; }
+
+    /// Makes a pane. What that asked of the platform is forgotten.
+    void createPane() {
+        std::ignore = session.create();
+        forget();
+    }
+
+    /// Makes a pane with a view. What that asked of the platform is forgotten.
+    void loadView() {
+        createPane();
+        session.loadView();
+        forget();
+    }
+
+    /// Makes a pane with a view and shows it. What that asked of the platform is forgotten.
+    void select() {
+        loadView();
+        pane().willSelect();
+        forget();
+    }
+
+    /// Leaves the pane. What that asked of the platform is forgotten.
+    void unselect() {
+        pane().willUnselect();
+        forget();
+    }
+
+    void storeHideList(const char* sorter, const platform::Value& hideFlags) {
+        world.domains[sorter].put(hideListKey, hideFlags);
+    }
+
+    [[nodiscard]] platform::Value hideList(const char* sorter) {
+        return world.domains[sorter].value(hideListKey);
+    }
+
+    /// The user ticks that row, or takes the tick away.
+    void editRow(std::int32_t row, bool hide) {
+        pane().tableViewSetObjectValueForTableColumnRow(
+            *controls().hideAppsTable, std::int32_t{hide},
+            controls().hideAppsTable->tableColumnWithIdentifier(platform::ColumnIdentifier{"2"}), row);
+        forget();
+    }
+
+    /// Lets the clock run on by so many seconds.
+    void wait(const char* seconds) { platform.runLoop.runFor(*simulated::Decimal::parse(seconds)); }
+
+    /// What the control of that field holds under that name.
+    [[nodiscard]] platform::Value shown(const std::string& field, const std::string& name) const {
+        for (const auto& [control, contents] : session.view()->contents())
+            if (control == field)
+                return platform::entry(contents, name);
+        return {};
+    }
+
+    /// The operations asked of the platform since they were last looked at or forgotten.
+    [[nodiscard]] std::vector<std::string> operations() { return platform.transcript.take(); }
+
+    void forget() { std::ignore = operations(); }
+
+    /// The same as one text, a line each, that begins with an empty line.
+    [[nodiscard]] std::string transcript() {
+        std::string text = "\n";
+        for (const std::string& line : operations())
+            text += line + "\n";
+        return text;
+    }
+
+    simulated::SimulatedPlatform platform;
+    simulated::World& world = platform.world;
+    simulated::PaneSession session{platform};
+};
+
+} // namespace qbsp
