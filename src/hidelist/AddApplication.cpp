@@ -9,7 +9,7 @@ void QBSPPreferencePane::addHideApp(Sender) {
     const auto panel = services_.openPanels.openPanel();
     panel->setCanChooseDirectories(false);
     panel->setAllowsMultipleSelection(false);
-    panel->setAllowedFileTypes({"app"});
+    panel->setAllowedFileTypes(std::vector<std::string>(1, "app"));
     panel->setDirectoryURL(platform::URL::fileURLWithPath("/Applications"));
     panel->beginSheetModalForWindow(
         base_.mainViewWindow(), [self = shared_from_this(), panel](std::int64_t result) {

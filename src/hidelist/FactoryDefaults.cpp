@@ -18,8 +18,9 @@ std::optional<std::string> factoryDefaultsPath(const std::optional<std::string>&
 platform::Value factoryHideFlags(const std::optional<std::string>& sorterPath,
                                  const platform::PropertyLists& propertyLists) {
     const auto factory = propertyLists.dictionaryWithContentsOfFile(factoryDefaultsPath(sorterPath));
-    return factory ? platform::entry(*factory, std::string(UserSpecifiedFullScreenApplications.text))
-                   : platform::Value();
+    if (!factory)
+        return {};
+    return platform::entry(*factory, std::string(UserSpecifiedFullScreenApplications.text));
 }
 
 } // namespace qbsp

@@ -9,56 +9,51 @@ std::weak_ordering compareStringUsingSelector(const HideAppInfo& first, const Hi
     return strings.caseInsensitiveCompare(first.appName, second.appName);
 }
 
-const HideList::Records& HideList::records() const {
-    static const Records none;
-    return exists() ? *records_ : none;
-}
-
 HideAppInfo& HideList::at(std::size_t row) const {
-    return *records().at(row);
+    return *records_.at(row);
 }
 
 void HideList::load(const platform::Dictionary& hideFlags) {
-    records_.emplace();
-    records_->reserve(hideFlags.size());
+    exists_ = true;
+    records_.clear();
+    records_.reserve(hideFlags.size());
     for (const auto& [appName, hideApp] : hideFlags)
-        records_->push_back(std::make_shared<HideAppInfo>(HideAppInfo{appName, hideApp}));
+        records_.push_back(std::make_shared<HideAppInfo>(HideAppInfo{appName, hideApp}));
     sort();
 }
 
 void HideList::add(const std::shared_ptr<HideAppInfo>& record) {
     if (!exists())
         return;
-    records_->push_back(record);
+    records_.push_back(record);
     sort();
 }
 
 void HideList::removeAll() {
-    if (exists())
-        records_->clear();
+    records_.clear();
 }
 
 std::int64_t HideList::indexOf(std::string_view appName) const {
     const auto found = std::ranges::find_if(
-        records(), [&](const auto& record) { return strings_.equalIgnoringCase(record->appName, appName); });
-    return found == records().end() ? notFound : found - records().begin();
+        records_, [&](const auto& record) { return strings_.equalIgnoringCase(record->appName, appName); });
+    return found == records_.end() ? notFound : found - records_.begin();
 }
 
 std::size_t HideList::indexOf(const std::shared_ptr<HideAppInfo>& record) const {
     if (!exists())
         return 0;
-    return static_cast<std::size_t>(std::ranges::find(*records_, record) - records_->begin());
+    return static_cast<std::size_t>(std::ranges::find(records_, record) - records_.begin());
 }
 
 platform::Dictionary HideList::hideFlags() const {
     platform::Dictionary flags;
-    for (const auto& record : records())
+    for (const auto& record : records_)
         flags.insert_or_assign(record->appName, record->hideApp);
     return flags;
 }
 
 void HideList::sort() {
-    std::ranges::stable_sort(*records_, [this](const auto& first, const auto& second) {
+    std::ranges::stable_sort(records_, [this](const auto& first, const auto& second) {
         return std::is_lt(compareStringUsingSelector(*first, *second, strings_));
     });
 }

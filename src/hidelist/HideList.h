@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -30,10 +29,10 @@ public:
     /// The comparison must outlive the list.
     explicit HideList(const platform::StringComparison& strings) : strings_(strings) {}
 
-    [[nodiscard]] bool exists() const { return records_.has_value(); }
+    [[nodiscard]] bool exists() const { return exists_; }
 
     /// The rows in their order; none while the list does not exist.
-    [[nodiscard]] const Records& records() const;
+    [[nodiscard]] const Records& records() const { return records_; }
 
     /// The row's record. Throws std::out_of_range for a row outside the list.
     [[nodiscard]] HideAppInfo& at(std::size_t row) const;
@@ -60,7 +59,8 @@ private:
     void sort();
 
     const platform::StringComparison& strings_;
-    std::optional<Records> records_;
+    bool exists_ = false;
+    Records records_;
 };
 
 } // namespace qbsp

@@ -3,13 +3,6 @@
 
 namespace qbsp {
 
-namespace {
-
-constexpr std::string_view nameColumnIdentifier = "1";
-constexpr std::string_view flagColumnIdentifier = "2";
-
-} // namespace
-
 void QBSPPreferencePane::loadHideAppData() {
     const platform::Value stored = sorterDomain().hideFlags();
     const auto* const hideFlags = stored.as<platform::Dictionary>();
@@ -26,7 +19,7 @@ std::int64_t QBSPPreferencePane::numberOfRowsInTableView(const platform::TableVi
 platform::Value QBSPPreferencePane::tableViewObjectValueForTableColumnRow(const platform::TableView&,
                                                                           const platform::TableColumn& column,
                                                                           std::int64_t row) const {
-    const bool wantsName = services_.strings.equalIgnoringCase(column.identifier(), nameColumnIdentifier);
+    const bool wantsName = services_.strings.equalIgnoringCase(column.identifier(), nameColumn.text);
     const HideAppInfo& info = tableArray_.at(static_cast<std::size_t>(row));
     if (wantsName)
         return info.appName;
@@ -39,7 +32,7 @@ void QBSPPreferencePane::tableViewSetObjectValueForTableColumnRow(const platform
                                                                   std::int32_t row) {
     // Every column but the name's shows the flag, and only this one edits it: a table with more columns must
     // not change the list by them.
-    if (!services_.strings.equalIgnoringCase(column.identifier(), flagColumnIdentifier))
+    if (!services_.strings.equalIgnoringCase(column.identifier(), flagColumn.text))
         return;
     tableArray_.at(static_cast<std::size_t>(row)).hideApp = value.intValue() == 1;
     hideAppsUpdated_ = true;

@@ -73,12 +73,12 @@ void QBSPPreferencePane::storeHotKey(const HotKeyKeys& keys, const platform::Key
 }
 
 void QBSPPreferencePane::mirrorClipHotKey(const platform::KeyCombo& keyCombo) {
-    const platform::Dictionary hotKey{
-        {std::string(clipHotKeyKeys.code.text), storedCode(keyCombo)},
-        {std::string(clipHotKeyKeys.modifiers.text), storedModifiers(keyCombo)}};
-    const auto folder = sharedSorterFolder(services_.files, services_.log);
-    const auto file =
-        folder ? std::optional(folder->appendingPathComponent(clipHotKeyFileName)) : std::nullopt;
+    platform::Dictionary hotKey;
+    hotKey.emplace(clipHotKeyKeys.code.text, storedCode(keyCombo));
+    hotKey.emplace(clipHotKeyKeys.modifiers.text, storedModifiers(keyCombo));
+    std::optional<platform::URL> file;
+    if (const auto folder = sharedSorterFolder(services_.files, services_.log))
+        file = folder->appendingPathComponent(clipHotKeyFileName);
     // The defaults hold the hot key whether or not the mirror could be written.
     std::ignore = services_.propertyLists.writeToURL(hotKey, file, platform::Atomically::yes);
 }

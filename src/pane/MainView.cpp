@@ -9,8 +9,6 @@ namespace {
 
 constexpr platform::NotificationName terminationNotification{
     "NSWorkspaceDidTerminateApplicationNotification"};
-constexpr platform::ColumnIdentifier nameColumnIdentifier{"1"};
-constexpr platform::ColumnIdentifier hideColumnIdentifier{"2"};
 
 } // namespace
 
@@ -18,8 +16,8 @@ void QBSPPreferencePane::mainViewDidLoad() {
     locateSorter();
     showTexts();
     hideAppsUpdated_ = false;
-    nameColumn(nameColumnIdentifier, texts::application);
-    nameColumn(hideColumnIdentifier, texts::hide);
+    titleColumn(nameColumn, texts::application);
+    titleColumn(flagColumn, texts::hide);
     if (services_.host.isSandboxed())
         hideWhatTheSandboxHasNoUseFor();
     // The only registration. Leaving the pane ends it, and showing the pane again does not renew it: whoever
@@ -43,7 +41,7 @@ void QBSPPreferencePane::showTexts() {
     controls.resetFullscreenSettingsButton->setTitle(localized(texts::resetFullscreenSettings));
 }
 
-void QBSPPreferencePane::nameColumn(platform::ColumnIdentifier identifier, platform::TextKey text) {
+void QBSPPreferencePane::titleColumn(platform::ColumnIdentifier identifier, platform::TextKey text) {
     platform::TableColumn& column = controls.hideAppsTable->tableColumnWithIdentifier(identifier);
     column.setHeaderStringValue(localized(text));
 }

@@ -49,7 +49,7 @@ public:
 
     QBSPPreferencePane(Creation, const platform::Services& services, platform::PreferencePaneBase& base);
 
-    /// Gives the pane up. Asks nothing of the platform: leaving the pane has removed the observer already.
+    /// Gives the pane up. Asks nothing of the platform: a workspace that still observes for it finds it gone.
     ~QBSPPreferencePane() override = default;
 
     QBSPPreferencePane(const QBSPPreferencePane&) = delete;
@@ -169,7 +169,7 @@ private:
     void registerEmbeddedSorter();
     void locateSorter();
     void showTexts();
-    void nameColumn(platform::ColumnIdentifier identifier, platform::TextKey text);
+    void titleColumn(platform::ColumnIdentifier identifier, platform::TextKey text);
     void hideWhatTheSandboxHasNoUseFor();
     [[nodiscard]] std::string localized(platform::TextKey text) const;
     [[nodiscard]] platform::URL embeddedSorterURL() const;
@@ -178,6 +178,7 @@ private:
 
     // settings/
     void showLoginItemState();
+    [[nodiscard]] bool startsAtLogin() const;
     void applyLoginItemCheckbox();
     void reportLoginItemFailure(platform::TextKey message, platform::ButtonState stateAfterwards);
     void announceChangedHotKeys();

@@ -8,12 +8,17 @@ namespace qbsp {
 void QBSPPreferencePane::locateSorter() {
     isSorterProApp_ = services_.host.isPro();
     // Both editions embed the same Sorter, so the edition plays no part in the sandboxed build.
-    setSorterAppURL(services_.host.isSandboxed() ? embeddedSorterURL() : sorterURLBesideRegistrar());
+    if (services_.host.isSandboxed())
+        setSorterAppURL(embeddedSorterURL());
+    else
+        setSorterAppURL(sorterURLBesideRegistrar());
 }
 
 std::optional<platform::URL> QBSPPreferencePane::sorterURLBesideRegistrar() const {
     const auto path = sorterPathBesideRegistrar();
-    return path ? std::optional(platform::URL::fileURLWithPath(*path)) : std::nullopt;
+    if (!path)
+        return std::nullopt;
+    return platform::URL::fileURLWithPath(*path);
 }
 
 platform::URL QBSPPreferencePane::embeddedSorterURL() const {

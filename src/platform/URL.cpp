@@ -32,7 +32,9 @@ std::string deletingLastPathComponent(std::string_view path) {
 
 std::string lastPathComponent(std::string_view path) {
     const std::string_view whole = withoutSlashesAtTheEnd(path);
-    return whole == "/" ? "/" : std::string(whole.substr(whole.rfind('/') + 1));
+    if (whole == "/")
+        return "/";
+    return std::string(whole.substr(whole.rfind('/') + 1));
 }
 
 std::string deletingPathExtension(std::string_view path) {
@@ -41,6 +43,10 @@ std::string deletingPathExtension(std::string_view path) {
     const auto dot = whole.rfind('.');
     const bool hasExtension = dot != std::string_view::npos && dot > component;
     return std::string(hasExtension ? whole.substr(0, dot) : whole);
+}
+
+URL URL::appendingPathComponent(std::string_view component) const {
+    return URL(platform::appendingPathComponent(path_, component));
 }
 
 } // namespace qbsp::platform

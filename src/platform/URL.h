@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace qbsp::platform {
 
@@ -28,9 +29,7 @@ public:
 
     [[nodiscard]] const std::string& path() const { return path_; }
 
-    [[nodiscard]] URL appendingPathComponent(std::string_view component) const {
-        return URL(platform::appendingPathComponent(path_, component));
-    }
+    [[nodiscard]] URL appendingPathComponent(std::string_view component) const;
 
     friend bool operator==(const URL&, const URL&) = default;
 

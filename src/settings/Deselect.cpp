@@ -46,8 +46,9 @@ void QBSPPreferencePane::announceChangedHotKeys() {
         return;
     // Inverted, as the Sorter understands it: "visibility" is NO when the tab is to be fully visible.
     const bool visibility = controls.visibilityButton->state() != platform::ButtonState::on;
-    postToSorter(QBSSorterPreferencesUpdated,
-                 platform::Dictionary{{std::string(visibilityEntry), visibility}});
+    platform::Dictionary userInfo;
+    userInfo.emplace(visibilityEntry, visibility);
+    postToSorter(QBSSorterPreferencesUpdated, userInfo);
     shouldRestartSorter_ = false;
 }
 

@@ -19,11 +19,14 @@ void QBSPPreferencePane::willSelect() {
 
 void QBSPPreferencePane::showLoginItemState() {
     // In the sandboxed build too, where the check box is hidden: it says what the system says.
-    const bool startsAtLogin = services_.host.isSandboxed()
-                                   ? appIsPresentInLoginItems()
-                                   : loginItemRegistrar_->applicationIsRegistered(sorterAppURL());
-    controls.showAtLoginCheckbox->setState(startsAtLogin ? platform::ButtonState::on
-                                                         : platform::ButtonState::off);
+    const bool on = startsAtLogin();
+    controls.showAtLoginCheckbox->setState(on ? platform::ButtonState::on : platform::ButtonState::off);
+}
+
+bool QBSPPreferencePane::startsAtLogin() const {
+    if (services_.host.isSandboxed())
+        return appIsPresentInLoginItems();
+    return loginItemRegistrar_->applicationIsRegistered(sorterAppURL());
 }
 
 } // namespace qbsp

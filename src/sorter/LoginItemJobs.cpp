@@ -4,11 +4,19 @@
 
 namespace qbsp {
 
+namespace {
+
+bool isLabelled(const platform::Dictionary& job, platform::BundleIdentifier label) {
+    const auto text = platform::stringEntry(job, "Label");
+    return text == label.text;
+}
+
+} // namespace
+
 bool jobIsOnDemand(const std::vector<platform::Dictionary>& jobs, platform::BundleIdentifier label) {
     // The first job decides, whatever a later one of the same label says.
-    const auto job = std::ranges::find_if(jobs, [label](const platform::Dictionary& candidate) {
-        return platform::stringEntry(candidate, "Label") == label.text;
-    });
+    const auto job =
+        std::ranges::find_if(jobs, [label](const auto& candidate) { return isLabelled(candidate, label); });
     return job != jobs.end() && platform::entry(*job, "OnDemand").boolValue();
 }
 
