@@ -72,7 +72,7 @@ void checkDeselect(const Situation& s, SituatedPane& stage) {
 
 TEST(Enumeration, DeselectKeepsItsRulesInEverySituation) {
     checkInAllSituations({Registrar::agrees, Registrar::refuses, Registrar::empty, Registrar::absent},
-                         checkDeselect);
+                         CheckBoxes::each, checkDeselect);
 }
 
 } // namespace qbsp

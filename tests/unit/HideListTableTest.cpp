@@ -210,6 +210,7 @@ TEST_F(HideListTable, RefusesRowsOutsideTheList) {
     EXPECT_THROW(std::ignore = valueAt("1", 3), std::out_of_range);
     EXPECT_THROW(std::ignore = valueAt("2", -1), std::out_of_range);
     EXPECT_THROW(setValueAt("2", 3, 1), std::out_of_range);
+    EXPECT_FALSE(pane().hideAppsUpdated());
 }
 
 TEST_F(HideListTable, FindsNamesIgnoringCaseAndAnswersMinusOneOtherwise) {

@@ -41,6 +41,12 @@ TEST(ModifierFlags, ComeBackAsTheyWere) {
         EXPECT_EQ(carbonToCocoaFlags(cocoaToCarbonFlags(bits << 17U)), bits << 17U);
 }
 
+TEST(KeyCombo, IsKnownByBothItsFields) {
+    EXPECT_EQ((KeyCombo{1, 2}), (KeyCombo{1, 2}));
+    EXPECT_NE((KeyCombo{1, 2}), (KeyCombo{0, 2}));
+    EXPECT_NE((KeyCombo{1, 2}), (KeyCombo{1, 0}));
+}
+
 TEST(KeyCombo, IsEmptyAtFirst) {
     EXPECT_EQ(KeyCombo().code, -1);
     EXPECT_EQ(KeyCombo().flags, 0U);

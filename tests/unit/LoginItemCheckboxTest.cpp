@@ -44,6 +44,12 @@ NSPreferencePane willUnselect()
 )");
 }
 
+TEST_F(LoginItemCheckbox, ChangesNothingInAStateThatOnlyThePlatformKnows) {
+    leaveWith(static_cast<platform::ButtonState>(2));
+
+    EXPECT_EQ(operations().size(), 3U);
+}
+
 TEST_F(LoginItemCheckbox, IsAppliedAtEveryDeselectAlsoWhenNobodyTouchedIt) {
     world.registered = true;
     select();

@@ -148,28 +148,4 @@ toggleLaunchButton setEnabled:(true)
 )");
 }
 
-using Properties = PaneTest;
-
-TEST_F(Properties, AreWhatTheyWereLastSetTo) {
-    createPane();
-    const auto url = platform::URL::fileURLWithPath("/Elsewhere/Sorter.app");
-    simulated::SimulatedRegistrar other(world, platform.transcript);
-
-    pane().setSorterAppURL(url);
-    pane().setLoginItemRegistrar(&other);
-
-    EXPECT_EQ(pane().sorterAppURL(), url);
-    EXPECT_EQ(pane().loginItemRegistrar(), &other);
-}
-
-TEST_F(Properties, AreNullAfterNull) {
-    loadView();
-
-    pane().setSorterAppURL(std::nullopt);
-    pane().setLoginItemRegistrar(nullptr);
-
-    EXPECT_EQ(pane().sorterAppURL(), std::nullopt);
-    EXPECT_EQ(pane().loginItemRegistrar(), nullptr);
-}
-
 } // namespace qbsp

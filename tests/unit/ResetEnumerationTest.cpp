@@ -39,7 +39,8 @@ void checkReset(const Situation& s, SituatedPane& stage) {
 } // namespace
 
 TEST(Enumeration, ResetKeepsItsRulesInEverySituation) {
-    checkInAllSituations({Registrar::agrees, Registrar::empty, Registrar::absent}, checkReset);
+    checkInAllSituations({Registrar::agrees, Registrar::empty, Registrar::absent}, CheckBoxes::together,
+                         checkReset);
 }
 
 } // namespace qbsp

@@ -8,12 +8,13 @@ void checkControls(const Situation& s, SituatedPane& stage) {
     const bool startsAtLogin = s.sandboxed || s.hasRegistrar();
     const char* const title = s.buttonsSorterRuns() ? "Quit" : "Show";
 
-    EXPECT_EQ(stage.shown("showAtLoginCheckbox", "state"), int{startsAtLogin});
-    EXPECT_EQ(stage.shown("toggleLaunchButton", "title"), title);
-    EXPECT_EQ(stage.shown("toggleLaunchButton", "enabled"), true);
-    EXPECT_EQ(stage.controls().visibilityButton->state(), s.visibility);
-    EXPECT_EQ(stage.shown("clipHotKeyRecorder", "delegate"), true);
-    EXPECT_EQ(stage.shown("noteHotKeyRecorder", "delegate"), true);
+    auto contents = stage.controlContents();
+    EXPECT_EQ(contents["showAtLoginCheckbox"]["state"], int{startsAtLogin});
+    EXPECT_EQ(contents["toggleLaunchButton"]["title"], title);
+    EXPECT_EQ(contents["toggleLaunchButton"]["enabled"], true);
+    EXPECT_EQ(contents["visibilityButton"]["state"], static_cast<int>(s.visibility));
+    EXPECT_EQ(contents["clipHotKeyRecorder"]["delegate"], true);
+    EXPECT_EQ(contents["noteHotKeyRecorder"]["delegate"], true);
 }
 
 void checkNothingWritten(const Situation& s, SituatedPane& stage, const Asked& asked) {
@@ -46,7 +47,8 @@ void checkSelect(const Situation& s, SituatedPane& stage) {
 } // namespace
 
 TEST(Enumeration, SelectKeepsItsRulesInEverySituation) {
-    checkInAllSituations({Registrar::agrees, Registrar::empty, Registrar::absent}, checkSelect);
+    checkInAllSituations({Registrar::agrees, Registrar::empty, Registrar::absent}, CheckBoxes::together,
+                         checkSelect);
 }
 
 } // namespace qbsp

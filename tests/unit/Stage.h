@@ -3,6 +3,7 @@
 #include "simulated/PaneSession.h"
 #include "simulated/SimulatedPlatform.h"
 
+#include <map>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -79,12 +80,15 @@ public:
     /// Lets the clock run on by so many seconds.
     void wait(const char* seconds) { platform.runLoop.runFor(*simulated::Decimal::parse(seconds)); }
 
+    /// What every connected control holds, by its field.
+    [[nodiscard]] std::map<std::string, platform::Dictionary> controlContents() const {
+        const auto contents = session.view()->contents();
+        return {contents.begin(), contents.end()};
+    }
+
     /// What the control of that field holds under that name.
     [[nodiscard]] platform::Value shown(const std::string& field, const std::string& name) const {
-        for (const auto& [control, contents] : session.view()->contents())
-            if (control == field)
-                return platform::entry(contents, name);
-        return {};
+        return platform::entry(controlContents().at(field), name);
     }
 
     /// The operations asked of the platform since they were last looked at or forgotten.

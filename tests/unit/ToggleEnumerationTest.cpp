@@ -20,15 +20,17 @@ void checkSorter(const Situation& s, const Asked& asked) {
 }
 
 void checkButton(const Situation& s, SituatedPane& stage, const Asked& asked) {
-    EXPECT_EQ(stage.shown("toggleLaunchButton", "enabled"), s.sandboxed);
-    EXPECT_EQ(stage.shown("toggleLaunchButton", "title"), "before") << "the title waits for the refresh";
+    auto button = stage.controlContents()["toggleLaunchButton"];
+    EXPECT_EQ(button["enabled"], s.sandboxed);
+    EXPECT_EQ(button["title"], "before") << "the title waits for the refresh";
     EXPECT_EQ(asked.count("attentionLabel setHidden:(true)"), 1);
     EXPECT_EQ(asked.operations().back(),
               R"(pane performSelector:withObject:afterDelay:("updateToggleButtonTitle", null, 0.75))");
 
     stage.wait("0.75");
-    EXPECT_EQ(stage.shown("toggleLaunchButton", "enabled"), true);
-    EXPECT_EQ(stage.shown("toggleLaunchButton", "title"), s.buttonsSorterRuns() ? "Quit" : "Show");
+    button = stage.controlContents()["toggleLaunchButton"];
+    EXPECT_EQ(button["enabled"], true);
+    EXPECT_EQ(button["title"], s.buttonsSorterRuns() ? "Quit" : "Show");
 }
 
 void checkFlags(const Situation& s, SituatedPane& stage, const Asked& asked) {
@@ -59,7 +61,8 @@ void checkToggle(const Situation& s, SituatedPane& stage) {
 } // namespace
 
 TEST(Enumeration, ToggleKeepsItsRulesInEverySituation) {
-    checkInAllSituations({Registrar::agrees, Registrar::empty, Registrar::absent}, checkToggle);
+    checkInAllSituations({Registrar::agrees, Registrar::empty, Registrar::absent}, CheckBoxes::together,
+                         checkToggle);
 }
 
 } // namespace qbsp

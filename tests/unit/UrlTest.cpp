@@ -37,6 +37,8 @@ TEST(PathExtension, IsAppendedBehindADot) {
 TEST(PathExtension, IsDeletedFromTheLastComponentOnly) {
     EXPECT_EQ(deletingPathExtension("Foo.app"), "Foo");
     EXPECT_EQ(deletingPathExtension("Foo.app/"), "Foo");
+    EXPECT_EQ(deletingPathExtension("F.app"), "F");
+    EXPECT_EQ(deletingPathExtension("/folder/F.app"), "/folder/F");
     EXPECT_EQ(deletingPathExtension("Foo..app"), "Foo.");
     EXPECT_EQ(deletingPathExtension("/folder.d/Foo"), "/folder.d/Foo");
     EXPECT_EQ(deletingPathExtension("Foo"), "Foo");
@@ -52,6 +54,7 @@ TEST(FileUrl, IsKnownByItsPath) {
 
     EXPECT_EQ(folder.appendingPathComponent("Mail.app").path(), "/Applications/Mail.app");
     EXPECT_EQ(folder, URL::fileURLWithPath("/Applications"));
+    EXPECT_NE(folder, URL::fileURLWithPath("/"));
 }
 
 } // namespace qbsp::platform

@@ -38,6 +38,7 @@ TEST(Value, KeepsItsKind) {
     EXPECT_NE(Value("1"), Value(1));
     EXPECT_EQ(Value("text"), Value(std::string("text")));
     EXPECT_EQ(Value(Date{1.5}), Value(Date{1.5}));
+    EXPECT_NE(Value(Date{1.5}), Value(Date{2.5}));
     EXPECT_EQ(Value(Data{std::byte{1}}), Value(Data{std::byte{1}}));
 }
 

@@ -1,0 +1,187 @@
+#include "PaneTest.h"
+#include "Watched.h"
+
+namespace qbsp {
+
+/// A pane whose flags are looked at while it asks the platform for something.
+class FlagTiming : public PaneTest {
+protected:
+    FlagTiming() {
+        storeHideList(full, platform::Dictionary{{"Mail", false}});
+        world.running.insert(full);
+        watched = QBSPPreferencePane::initWithBundle(services(), base);
+        watched->controls.hideAppsTable = platform::Outlet<platform::TableView>(&table);
+    }
+
+    platform::Services services() {
+        platform::Services all = platform.services();
+        return {.host = all.host,
+                .processInfo = all.processInfo,
+                .runtime = all.runtime,
+                .bundles = all.bundles,
+                .log = log,
+                .runLoop = all.runLoop,
+                .strings = all.strings,
+                .userDefaults = all.userDefaults,
+                .preferences = all.preferences,
+                .notifications = center,
+                .workspace = all.workspace,
+                .runningApplications = all.runningApplications,
+                .launchServices = all.launchServices,
+                .serviceManagement = all.serviceManagement,
+                .files = all.files,
+                .propertyLists = all.propertyLists,
+                .alerts = all.alerts,
+                .openPanels = all.openPanels};
+    }
+
+    /// Shows the pane on its list and changes that and a hot key.
+    void change() {
+        watched->mainViewDidLoad();
+        watched->willSelect();
+        watched->tableViewSetObjectValueForTableColumnRow(table, true,
+                                                          simulated::SimulatedColumn("2", record), 0);
+        watched->enableAttentionLabel(nullptr);
+    }
+
+    simulated::ControlRecord record{"column", platform.transcript};
+    simulated::SimulatedPaneBase base{world, platform.transcript};
+    WatchedCenter center;
+    WatchedTable table;
+    WatchedLog log;
+    WatchedRegistrar registrar;
+    std::shared_ptr<QBSPPreferencePane> watched;
+    int calls = 0;
+};
+
+TEST_F(FlagTiming, ClearsTheRestartOnlyOnceTheNoticeIsOut) {
+    watched->mainViewDidLoad();
+    watched->enableAttentionLabel(nullptr);
+    center.posted = [&](std::string_view) {
+        ++calls;
+        EXPECT_TRUE(watched->shouldRestartSorter());
+    };
+
+    watched->willUnselect();
+
+    EXPECT_EQ(calls, 1);
+    EXPECT_FALSE(watched->shouldRestartSorter());
+}
+
+TEST_F(FlagTiming, ClearsTheChangeOfTheListOnlyOnceTheNoticeIsOut) {
+    change();
+    center.posted = [&](std::string_view) {
+        ++calls;
+        EXPECT_TRUE(watched->hideAppsUpdated());
+    };
+
+    watched->willUnselect();
+
+    EXPECT_EQ(calls, 2);
+    EXPECT_FALSE(watched->hideAppsUpdated());
+}
+
+TEST_F(FlagTiming, RaisesTheRestartOnlyOnceAChangedHotKeyIsAnnounced) {
+    watched->mainViewDidLoad();
+    center.posted = [&](std::string_view) {
+        ++calls;
+        EXPECT_FALSE(watched->shouldRestartSorter());
+    };
+
+    watched->shortcutRecorderKeyComboDidChange(*watched->controls.noteHotKeyRecorder, {0, 45});
+
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(watched->shouldRestartSorter());
+}
+
+TEST_F(FlagTiming, MarksTheListAsChangedOnlyOnceAnAdditionIsShown) {
+    watched->mainViewDidLoad();
+    watched->willSelect();
+    table.asked = [&] {
+        ++calls;
+        EXPECT_FALSE(watched->hideAppsUpdated());
+    };
+
+    watched->addHideApp(nullptr);
+    platform.openPanels.endSheet(platform::NSOKButton, "/Applications/Player.app");
+
+    EXPECT_EQ(calls, 3);
+    EXPECT_TRUE(watched->hideAppsUpdated());
+}
+
+TEST_F(FlagTiming, ClearsTheResetRequestOnlyOnceTheTableIsReloaded) {
+    watched->mainViewDidLoad();
+    center.posted = [](std::string_view) {
+    };
+    watched->raiseDeleteFullScreenSettingsInSorter();
+    table.asked = [&] {
+        ++calls;
+        EXPECT_TRUE(watched->deleteFullScreenSettingsInSorter());
+    };
+
+    watched->deleteFullScreenSettings();
+
+    EXPECT_EQ(calls, 1);
+    EXPECT_FALSE(watched->deleteFullScreenSettingsInSorter());
+}
+
+TEST_F(FlagTiming, TellsTheSorterOfAResetBeforeTheRowsGo) {
+    watched->mainViewDidLoad();
+    watched->willSelect();
+    center.posted = [&](std::string_view) {
+        ++calls;
+        EXPECT_EQ(watched->numberOfRowsInTableView(table), 1);
+    };
+
+    watched->deleteFullScreenSettings();
+
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(watched->numberOfRowsInTableView(table), 0);
+}
+
+TEST_F(FlagTiming, MarksTheListAsUnchangedBetweenTheTextsAndTheHeaders) {
+    change();
+    WatchedButton button;
+    watched->controls.resetFullscreenSettingsButton = platform::Outlet<platform::Button>(&button);
+    button.titled = [&] {
+        ++calls;
+        EXPECT_TRUE(watched->hideAppsUpdated());
+    };
+    table.asked = [&] {
+        ++calls;
+        EXPECT_FALSE(watched->hideAppsUpdated());
+    };
+
+    watched->mainViewDidLoad();
+
+    EXPECT_EQ(calls, 3);
+}
+
+TEST_F(FlagTiming, ForgetsTheRestartOnlyOnceTheRegistrarWasAskedToStop) {
+    watched->setLoginItemRegistrar(&registrar);
+    watched->enableAttentionLabel(nullptr);
+    registrar.closed = [&] {
+        ++calls;
+        EXPECT_TRUE(watched->shouldRestartSorter());
+    };
+
+    watched->closeSorterApplication();
+
+    EXPECT_EQ(calls, 1);
+    EXPECT_FALSE(watched->shouldRestartSorter());
+}
+
+TEST_F(FlagTiming, KeepsTheLaunchedSorterBeforeItsErrorIsLogged) {
+    world.sandboxed = true;
+    world.launchError = "Slow.";
+    log.logged = [&] {
+        ++calls;
+        EXPECT_TRUE(watched->hasSandboxedSorterApp());
+    };
+
+    watched->showSorterApplication();
+
+    EXPECT_EQ(calls, 1);
+}
+
+} // namespace qbsp
