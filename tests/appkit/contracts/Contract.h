@@ -17,8 +17,8 @@ struct Side {
     friend void PrintTo(const Side& side, std::ostream* stream) { *stream << side.name; }
 };
 
-/// A test of what an interface promises. The stage offers the service, arranges what it meets, and looks at it
-/// from outside.
+/// A test of what an interface promises. The stage offers the service, arranges what it meets, and looks at
+/// it from outside.
 template <class Stage>
 class Contract : public testing::TestWithParam<Side<Stage>> {
 protected:
@@ -27,7 +27,8 @@ protected:
 
 template <class Stage>
 auto onBothSides() {
-    return testing::Values(Side<Stage>{"Simulated", &Stage::simulated}, Side<Stage>{"AppKit", &Stage::appKit});
+    return testing::Values(Side<Stage>{"Simulated", &Stage::simulated},
+                           Side<Stage>{"AppKit", &Stage::appKit});
 }
 
 /// For what the simulation leaves to whoever drives it.
@@ -36,6 +37,8 @@ auto onAppKit() {
     return testing::Values(Side<Stage>{"AppKit", &Stage::appKit});
 }
 
-inline constexpr auto nameOfSide = [](const auto& test) { return test.param.name; };
+inline constexpr auto nameOfSide = [](const auto& test) {
+    return test.param.name;
+};
 
 } // namespace qbsp::contracts

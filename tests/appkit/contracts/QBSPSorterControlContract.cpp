@@ -47,9 +47,9 @@ TEST_P(QBSPSorterControlContract, TheRegistrarIsToldOfTheApplicationOrThatItIsMi
     std::ignore = registrar->registerApplication(application);
     std::ignore = registrar->unregisterApplication(std::nullopt);
 
-    EXPECT_EQ(stage->messages(), (Messages{"applicationIsRegistered: /Applications/Größe 1.app",
-                                           "registerApplication: /Applications/Größe 1.app",
-                                           "unregisterApplication: null"}));
+    EXPECT_EQ(stage->messages(),
+              (Messages{"applicationIsRegistered: /Applications/Größe 1.app",
+                        "registerApplication: /Applications/Größe 1.app", "unregisterApplication: null"}));
 }
 
 TEST_P(QBSPSorterControlContract, TheOtherMessagesReachTheRegistrarInOrder) {

@@ -62,6 +62,19 @@ TEST_P(UserDefaultsContract, ALaterFlushCarriesWhatOneThatFailedDidNot) {
     EXPECT_EQ(platform::entry(stage->defaultsSeenByOthers(), "Key"), Value(true));
 }
 
+TEST_P(UserDefaultsContract, AFlushAfterOneThatFailedKeepsWhatOthersSetMeanwhile) {
+    userDefaults.setObjectForKey("old", {"Theirs"});
+    EXPECT_TRUE(userDefaults.synchronize());
+    EXPECT_FALSE(stage->flushInVain([this] { userDefaults.setBoolForKey(true, key); },
+                                    [this] { return userDefaults.synchronize(); }));
+    stage->otherProcessSetsDefault("Theirs", "new");
+
+    EXPECT_TRUE(userDefaults.synchronize());
+
+    EXPECT_EQ(platform::entry(stage->defaultsSeenByOthers(), "Theirs"), Value("new"));
+    EXPECT_EQ(platform::entry(stage->defaultsSeenByOthers(), "Key"), Value(true));
+}
+
 INSTANTIATE_TEST_SUITE_P(On, UserDefaultsContract, onBothSides<StoresStage>(), nameOfSide);
 
 } // namespace qbsp::contracts

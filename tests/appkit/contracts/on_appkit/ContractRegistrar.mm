@@ -17,9 +17,10 @@ static void tell(SEL message) {
     registrarState().messages.push_back([NSStringFromSelector(message) UTF8String]);
 }
 
-static void tell(SEL message, NSURL *application) {
+static void tell(SEL message, NSURL* application) {
     tell(message);
-    registrarState().messages.back() += application == nil ? " null" : std::string(" ") + [[application path] UTF8String];
+    registrarState().messages.back() +=
+        application == nil ? " null" : std::string(" ") + [[application path] UTF8String];
 }
 
 static BOOL change(bool isRegistered) {
@@ -31,17 +32,17 @@ static BOOL change(bool isRegistered) {
 
 @implementation ContractRegistrar
 
-- (BOOL)applicationIsRegistered:(NSURL *)applicationURL {
+- (BOOL)applicationIsRegistered:(NSURL*)applicationURL {
     tell(_cmd, applicationURL);
     return registrarState().isRegistered;
 }
 
-- (BOOL)registerApplication:(NSURL *)applicationURL {
+- (BOOL)registerApplication:(NSURL*)applicationURL {
     tell(_cmd, applicationURL);
     return change(true);
 }
 
-- (BOOL)unregisterApplication:(NSURL *)applicationURL {
+- (BOOL)unregisterApplication:(NSURL*)applicationURL {
     tell(_cmd, applicationURL);
     return change(false);
 }
@@ -63,7 +64,7 @@ static BOOL change(bool isRegistered) {
 @implementation ContractLoader
 
 + (id)defaultLoader {
-    static ContractRegistrar *const registrar = [[ContractRegistrar alloc] init];
+    static ContractRegistrar* const registrar = [[ContractRegistrar alloc] init];
     return registrar;
 }
 

@@ -16,7 +16,7 @@
 
 /// The application object of a host that knows the pane's questions.
 @interface ContractHost : NSObject {
-@public
+  @public
     qbsp::contracts::HostAnswers answers;
 }
 @end
@@ -40,7 +40,7 @@ namespace fs = std::filesystem;
 namespace {
 
 class AppKitStage final : public HostStage {
-public:
+  public:
     ~AppKitStage() override { NSApp = application_; }
 
     platform::Host& host() override { return host_; }
@@ -77,7 +77,7 @@ public:
         return testing::internal::GetCapturedStderr();
     }
 
-private:
+  private:
     const decltype(NSApp) application_ = NSApp;
     const appkit::Retained<ContractHost*> knowing_ =
         appkit::Retained<ContractHost*>::adopt([[ContractHost alloc] init]);

@@ -28,7 +28,7 @@ const fs::path& folder() {
 
 /// A disk on which no file can grow.
 class FullDisk {
-public:
+  public:
     FullDisk() {
         std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &before_);
@@ -41,7 +41,7 @@ public:
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
 
-private:
+  private:
     rlimit before_{};
 };
 
@@ -50,7 +50,7 @@ NSString* hostDomain() {
 }
 
 class AppKitStage final : public StoresStage {
-public:
+  public:
     ~AppKitStage() override {
         [[NSUserDefaults standardUserDefaults] removePersistentDomainForName:hostDomain()];
         [[NSUserDefaults standardUserDefaults] synchronize];
@@ -71,8 +71,14 @@ public:
         EXPECT_TRUE(appkit::AppKitPropertyLists().writeToURL(contents, file, platform::Atomically::yes));
     }
 
+    void otherProcessSetsDefault(const std::string& key, const platform::Value& value) override {
+        otherProcessSets([hostDomain() UTF8String], key, value);
+    }
+
     Dictionary domainSeenByOthers(const std::string& domain) override {
-        return appkit::AppKitPropertyLists().dictionaryWithContentsOfFile(fileOf(domain)).value_or(Dictionary());
+        return appkit::AppKitPropertyLists()
+            .dictionaryWithContentsOfFile(fileOf(domain))
+            .value_or(Dictionary());
     }
 
     Dictionary defaultsSeenByOthers() override { return domainSeenByOthers([hostDomain() UTF8String]); }
@@ -83,7 +89,7 @@ public:
         return flush();
     }
 
-private:
+  private:
     static std::string fileOf(const std::string& domain) { return folder() / (domain + ".plist"); }
 
     std::unique_ptr<platform::Preferences> preferences_ = appkit::makePreferences();

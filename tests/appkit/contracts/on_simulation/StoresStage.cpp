@@ -17,6 +17,10 @@ public:
         platform_.world.domains[domain].put(key, value);
     }
 
+    void otherProcessSetsDefault(const std::string& key, const platform::Value& value) override {
+        platform_.world.defaults.put(key, value);
+    }
+
     platform::Dictionary domainSeenByOthers(const std::string& domain) override {
         return platform_.world.domains[domain].seenByOthers();
     }

@@ -24,6 +24,9 @@ public:
     virtual void otherProcessSets(const std::string& domain, const std::string& key,
                                   const platform::Value& value) = 0;
 
+    /// Another process sets a value in the defaults of the host, and flushes it.
+    virtual void otherProcessSetsDefault(const std::string& key, const platform::Value& value) = 0;
+
     [[nodiscard]] virtual platform::Dictionary domainSeenByOthers(const std::string& domain) = 0;
     [[nodiscard]] virtual platform::Dictionary defaultsSeenByOthers() = 0;
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A user who answers whatever dialog is open: reads it, chooses a file in it, presses a button of it, once.
+@interface ContractUser : NSObject {
+  @public
+    std::string button;
+    std::optional<std::string> choice;
+    std::vector<std::string> texts;
+    std::string defaultButton;
+    NSTimer* timer;
+    NSWindow* answered;
+}
+
+/// Looks for dialogs from now on, until it is told to leave.
+- (void)watch;
+- (void)leave;
+
+@end
