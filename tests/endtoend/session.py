@@ -44,7 +44,11 @@ class Session:
         self.manager = None
 
     def __enter__(self):
-        self._start_display()
+        try:
+            self._start_display()
+        except BaseException:
+            self.end()
+            raise
         return self
 
     def __exit__(self, *_):

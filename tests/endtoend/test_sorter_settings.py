@@ -1,0 +1,168 @@
+"""What the user sets in the pane, as the Sorter takes it up: hot keys, visibility, the hide list."""
+
+import os
+import plistlib
+import signal
+import subprocess
+import unittest
+
+from real_sorter import (EMBEDDED_SORTER, FULL, ORDINARY_BUILDS, SANDBOXED_BUILDS, SOLO, Host, SorterTest,
+                         hot_key, program_of)
+from session import HIDE_LIST, PANE, SOLO_SORTER, SORTER, wait_until
+
+HOT_KEYS = "QBSSorterShortcutKeysChanged"
+PREFERENCES = "QBSSorterPreferencesUpdated"
+LIST = "QBSSorterHideAppUpdated"
+FROM_HOST = 'object="Quarrybook"'
+FACTORY_FILE = "Contents/Resources/FactoryDefaults.plist"
+NOTE_RECORDER = ("230", "302")  # in the window, in pixels from the left and the top
+COMMAND, OPTION, CONTROL = 0x100, 0x800, 0x1000
+
+
+class SorterSettingsTest(SorterTest):
+    def test_a_hot_key_of_the_keyboard_reaches_the_sorter(self):
+        self.start_by_hand(SORTER)
+        host = self.begin("select", "wait 60")
+        host.reach("wait 60")
+
+        self.type_until_told(HOT_KEYS, "Quarrybook Preferences: Sorter",
+                             "mousemove", "--window", "%1", *NOTE_RECORDER, "click", "1", "key", "ctrl+alt+n")
+
+        self.wait_told(HOT_KEYS, FROM_HOST, "userInfo=none", hot_key(45, CONTROL | OPTION))
+        host.process.send_signal(signal.SIGTERM)
+        host.finish()
+        self.wait_told(PREFERENCES, hot_key(45, CONTROL | OPTION))
+
+    def test_hot_keys_and_the_visibility_reach_the_sorter(self):
+        for options, identifier in self.each_build(ORDINARY_BUILDS):
+            sorter = self.start_by_hand(identifier)
+
+            self.play("select", "set visibilityButton 0", "change note 45 0x100000", "change clip 8 0x120000",
+                      "unselect", "select", "set visibilityButton 1", "change note 0 0x140000", "unselect",
+                      options=options)
+
+            self.wait_told(PREFERENCES, FROM_HOST, '{"visibility"=NO} SorterTabIsInvisible=NO', "ClipHotKeyCode=8 ",
+                           hot_key(0, CONTROL | COMMAND))
+            self.assertEqual([line.split()[0] for line in self.log()[2:]],
+                             [HOT_KEYS, HOT_KEYS, PREFERENCES, HOT_KEYS, PREFERENCES])
+            self.wait_told(HOT_KEYS, FROM_HOST, "userInfo=none", hot_key(45, COMMAND))
+            self.wait_told(PREFERENCES, FROM_HOST, '{"visibility"=YES} SorterTabIsInvisible=YES', hot_key(45, COMMAND))
+            self.assert_stored_as_whole_numbers({"Sorter.NoteHotKeyCode": 0, "Sorter.NoteHotKeyModifiers": 0x1100,
+                                                 "Sorter.ClipHotKeyCode": 8, "Sorter.ClipHotKeyModifiers": 0x300})
+            sorter.kill()
+            sorter.wait()
+            self.session.domain_file("Quarrybook").unlink()
+
+    def assert_stored_as_whole_numbers(self, expected):
+        stored = {key: value for key, value in self.session.domain("Quarrybook").items() if key in expected}
+        self.assertEqual(stored, expected)
+        self.assertEqual({type(value) for value in stored.values()}, {int})
+
+    def test_a_change_made_before_the_sorter_started_is_announced_when_the_pane_is_left_with_it(self):
+        host = self.begin("select", "change note 45 0x100000", "unselect", "select", "toggle",
+                          "until toggleLaunchButton Quit", "wait 60")
+        host.reach("wait 60")
+        self.wait_for_start(SORTER)
+        self.assertIn(hot_key(45, COMMAND), self.told("settings")[0])
+
+        host.process.send_signal(signal.SIGTERM)
+        host.finish()
+
+        self.wait_told(PREFERENCES, FROM_HOST, '{"visibility"=NO}', hot_key(45, COMMAND))
+
+    def test_the_embedded_sorter_hears_of_hot_keys_and_the_edition_s_own_of_leaving_too(self):
+        options, identifier = SANDBOXED_BUILDS[0]
+        self.start_by_hand(identifier)
+        self.play("select", "change note 45 0x100000", "unselect", options=options)
+        self.wait_told(HOT_KEYS, hot_key(45, COMMAND), "clipHotKey.dictionary=none")
+
+        self.start_by_hand(SORTER)
+        self.assertEqual(self.told(PREFERENCES), [])
+        self.play("select", "change note 0 0x100000", "unselect", options=options)
+
+        wait_until(lambda: len(self.told(PREFERENCES)) == 2, "the notice of both")
+        self.assertTrue(all('{"visibility"=NO}' in line and hot_key(0, COMMAND) in line
+                            for line in self.told(PREFERENCES)))
+
+    def test_an_edited_hide_list_reaches_the_sorter(self):
+        for options, identifier in self.each_build(ORDINARY_BUILDS):
+            self.session.set_domain(identifier, {HIDE_LIST: {"Atlas": False, "Books": True}})
+            sorter = self.start_by_hand(identifier)
+
+            self.play("select", "edit 2 0 1", "unselect", "select", "edit 2 1 0", "unselect", options=options)
+
+            self.wait_told(LIST, FROM_HOST, "userInfo=none", '{"Atlas"=YES; "Books"=NO}')
+            self.assertEqual([line.split("=", 3)[-1] for line in self.told(LIST)],
+                             ['{"Atlas"=YES; "Books"=YES}', '{"Atlas"=YES; "Books"=NO}'])
+            sorter.kill()
+            sorter.wait()
+
+    def test_an_edited_hide_list_of_the_sandboxed_build_reaches_the_edition_s_sorter(self):
+        options, _ = SANDBOXED_BUILDS[1]
+        self.session.set_domain(SOLO_SORTER, {HIDE_LIST: {"Atlas": False}})
+        self.start_by_hand(SOLO_SORTER)
+
+        self.play("select", "edit 2 0 1", "unselect", options=options)
+
+        self.wait_told(LIST, FROM_HOST, '{"Atlas"=YES}')
+
+    def test_the_reset_brings_the_factory_list_back(self):
+        self.session.set_domain(SORTER, {HIDE_LIST: {"Atlas": True}, "other": 1})
+        self.start_by_hand(SORTER)
+
+        lines = self.play("select", "reset", "rows", "find Films", "find Atlas", "unselect", options=FULL)
+
+        factory = factory_list(SORTER)
+        self.assertEqual([line for line in lines if line.startswith("= ")],
+                         [f"= {len(factory)}", f"= {sorted(factory).index('Films')}", "= -1"])
+        self.assertEqual(self.session.domain(SORTER), {HIDE_LIST: factory, "other": 1})
+        self.wait_told(LIST, FROM_HOST, "userInfo=none", '"Films"=YES', '"Mail"=NO')
+
+    def test_the_reset_of_the_solo_edition_writes_the_full_edition_s_domain_and_tells_the_solo_sorter(self):
+        self.session.set_domain(SORTER, {HIDE_LIST: {"Atlas": True}})
+        self.session.set_domain(SOLO_SORTER, {HIDE_LIST: {"Books": True}})
+        self.start_by_hand(SOLO_SORTER)
+
+        lines = self.play("select", "reset", "rows", "value 1 0", "unselect", options=SOLO)
+
+        self.assertEqual([line for line in lines if line.startswith("= ")], ["= 1", '= "Books"'])
+        self.assertEqual(self.session.domain(SORTER), {HIDE_LIST: factory_list(SOLO_SORTER)})
+        self.assertEqual(self.session.domain(SOLO_SORTER), {HIDE_LIST: {"Books": True}})
+        self.wait_told(LIST, FROM_HOST, "userInfo=none", '{"Books"=YES}')
+
+    def test_the_shared_file_holds_two_whole_numbers_that_the_embedded_sorter_reads(self):
+        self.start_by_hand(EMBEDDED_SORTER)
+        host = Host(self.session, os.environ["REVEALING_HOST"], "-Pane", PANE)
+
+        self.type_until_told(HOT_KEYS, "Revealed", "key", "--delay", "50", "space", "ctrl+alt+c")
+
+        self.wait_told(HOT_KEYS, "clipHotKey.dictionary={", '"Sorter.ClipHotKeyCode"=8;',
+                       f'"Sorter.ClipHotKeyModifiers"={CONTROL | OPTION}}}')
+        file, = self.session.home.rglob("clipHotKey.dictionary")
+        self.assertEqual(file.parent, self.session.home / ".local/share/Group Containers/Z3K8WQ4N7P.quarry2/Sorter")
+        self.assertTrue(file.read_bytes().startswith(b"<?xml"))
+        held = plistlib.loads(file.read_bytes(), fmt=plistlib.FMT_XML)
+        self.assertEqual(held, {"Sorter.ClipHotKeyCode": 8, "Sorter.ClipHotKeyModifiers": CONTROL | OPTION})
+        self.assertEqual({type(value) for value in held.values()}, {int})
+        host.process.terminate()
+        host.process.wait(20)
+
+    # --- The keyboard
+
+    def type_until_told(self, name, title, *input_words):
+        """Gives the input to the window of that title, again while it has no ear for the keyboard yet."""
+        def typed():
+            subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title, "windowactivate", *input_words],
+                           env=self.session.environment, capture_output=True)
+            return self.told(name)
+
+        wait_until(typed, f"{name} of real keys")
+
+
+def factory_list(identifier):
+    with open(program_of(identifier).parent / FACTORY_FILE, "rb") as file:
+        return plistlib.load(file)[HIDE_LIST]
+
+
+if __name__ == "__main__":
+    unittest.main()
