@@ -1,6 +1,8 @@
 # A session of its own for GNUstep programs: defaults, notifications and running applications apart from the user's,
 # a display when there is none. For the scripts that source it.
 
+session_scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+
 # Makes everything that is started from now on live in that home. Ends with the shell.
 session_start() { # HOME
     local home=$1
@@ -28,12 +30,18 @@ session_display() {
     session_wait "the virtual display" test -s "$number"
     DISPLAY=:$(cat "$number")
     export DISPLAY
-    openbox --config-file /dev/null >/dev/null 2>&1 &
+    openbox --config-file "$session_scripts/openbox.xml" >/dev/null 2>&1 &
     session_wait "the window manager" session_has_manager
 }
 
 session_has_manager() {
     xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
+}
+
+# Runs a program to its end. Unlike one in the foreground it does not hold back a signal to end the session.
+session_run() { # COMMAND...
+    "$@" &
+    wait $!
 }
 
 # Waits until the command succeeds, ten seconds at most.
@@ -61,21 +69,39 @@ session_processes() {
     done 2>/dev/null
 }
 
+# Those of them that use the notification daemon and the window manager.
+session_applications() {
+    local pid
+    for pid in $(session_processes); do
+        case $(cat "/proc/$pid/comm" 2>/dev/null) in
+        gdnc | openbox | "") ;;
+        *) echo "$pid" ;;
+        esac
+    done
+}
+
+session_is_idle() {
+    [ -z "$(session_applications)" ]
+}
+
 session_is_empty() {
     [ -z "$(session_processes)" ]
 }
 
-session_signal() { # SIGNAL
-    local pid
-    for pid in $(session_processes); do
-        kill "-$1" "$pid" 2>/dev/null || true
+session_signal() { # SIGNAL PROCESS...
+    local signal=$1 pid
+    shift
+    for pid in "$@"; do
+        kill "-$signal" "$pid" 2>/dev/null || true
     done
 }
 
-# Ends every process of the session, the applications before their display.
+# Ends every process of the session, the applications before what they use.
 session_end() {
-    session_signal TERM
-    session_wait "the end of the session" session_is_empty 2>/dev/null || session_signal KILL
+    session_signal TERM $(session_applications)
+    session_wait "the end of the applications" session_is_idle 2>/dev/null || session_signal KILL $(session_applications)
+    session_signal TERM $(session_processes)
+    session_wait "the end of the session" session_is_empty 2>/dev/null || session_signal KILL $(session_processes)
     if [ -n "${session_server-}" ]; then
         kill "$session_server" 2>/dev/null || true
         wait "$session_server" 2>/dev/null || true

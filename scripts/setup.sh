@@ -9,11 +9,11 @@ packages_for() {
     application)
         echo cmake ninja-build g++ gobjc++ nlohmann-json3-dev \
             libgnustep-gui-dev libpreferencepanes-dev gnustep-gui-runtime gnustep-base-runtime \
-            libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb xauth openbox x11-utils xdotool imagemagick
+            libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb openbox x11-utils
         ;;
     tests)
         echo googletest python3 clang clang-format clang-tidy g++-multilib \
-            x11-xkb-utils libxtst-dev desktop-file-utils systempreferences.app
+            x11-xkb-utils libxtst-dev xdotool desktop-file-utils systempreferences.app
         ;;
     coverage) echo gcovr ;;
     *)

@@ -13,7 +13,7 @@ bool isFolder(NSString* path) {
 }
 
 std::string description(NSError* error) {
-    NSString* text = [error localizedDescription];
+    NSString* text = [error description];
     return text == nil ? "The folder could not be created." : utf8(text);
 }
 

@@ -7,6 +7,8 @@
 #include "appkit/Strings.h"
 #include "appkit/URLs.h"
 
+#include <tuple>
+
 namespace qbsp::appkit {
 
 namespace {
@@ -43,12 +45,14 @@ class AppKitOpenPanel final : public platform::OpenPanel {
                                   std::function<void(std::int64_t)> completionHandler) override;
 
     std::optional<platform::URL> chosenURL() const override {
-        return urlFromNSURL([[panel_.get() URLs] lastObject]);
+        // The system's panel is a shared one, which still has what was chosen in it before.
+        return *isChosen_ ? urlFromNSURL([[panel_.get() URLs] lastObject]) : std::nullopt;
     }
 
   private:
     Retained<NSOpenPanel*> panel_;
     Retained<id> owner_;
+    std::shared_ptr<bool> isChosen_ = std::make_shared<bool>(false);
 };
 
 void AppKitOpenPanel::beginSheetModalForWindow(platform::Window* window,
@@ -56,9 +60,11 @@ void AppKitOpenPanel::beginSheetModalForWindow(platform::Window* window,
     const Retained<NSOpenPanel*> panel = panel_;
     const Retained<NSWindow*> sheetWindow(nsWindow(window));
     const Retained<id> owner = owner_;
+    const auto isChosen = isChosen_;
     // The owner stays while the panel is a sheet, too.
     const auto handler = [=](std::int64_t result) {
         std::ignore = owner;
+        *isChosen = result == platform::NSOKButton;
         completionHandler(result);
     };
     const auto show = [=] { showSheet(panel.get(), sheetWindow.get(), handler); };

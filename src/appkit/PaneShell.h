@@ -1,10 +1,14 @@
 #pragma once
 
 #include "appkit/PreferencePaneBase.h"
+#include "appkit/QBSPSorterControlProtocol.h"
 #include "appkit/Services.h"
 #include "appkit/ViewControls.h"
 #include "appkit/view/QBSPVisibilityBinding.h"
 #include "pane/QBSPPreferencePane.h"
+
+#include <memory>
+#include <optional>
 
 namespace qbsp::appkit {
 
@@ -25,6 +29,10 @@ class PaneShell {
     /// The view; made the first time.
     [[nodiscard]] QBSPPaneView* view();
 
+    /// The Sorter's bundle and the host's registrar, as the pane has found them; nil for none.
+    [[nodiscard]] NSURL* sorterAppURL();
+    [[nodiscard]] QBSPRegistrar loginItemRegistrar();
+
     void mainViewDidLoad();
     void willSelect();
     void willUnselect();
@@ -39,6 +47,9 @@ class PaneShell {
 
   private:
     void makeView();
+
+    /// The view's table; one that takes everything and shows nothing while there is no view.
+    [[nodiscard]] platform::TableView& hideAppsTable();
 
     ::QBSPPreferencePane* object_;
     NSBundle* bundle_;

@@ -1,8 +1,13 @@
 #include "appkit/PaneShell.h"
 
 #include "appkit/PropertyListConversion.h"
+#include "appkit/RegistrarAdapter.h"
+#include "appkit/URLs.h"
+#include "platform/NullObjects.h"
 
+#include <cstdint>
 #include <stdexcept>
+#include <utility>
 
 namespace qbsp::appkit {
 
@@ -66,9 +71,21 @@ void PaneShell::makeView() {
     pane_->controls = controls_.emplace(view).outlets();
 }
 
+#pragma mark - What the pane knows
+
+NSURL* PaneShell::sorterAppURL() {
+    return nsURL(pane_->sorterAppURL());
+}
+
+QBSPRegistrar PaneShell::loginItemRegistrar() {
+    const auto* registrar = dynamic_cast<const RegistrarAdapter*>(pane_->loginItemRegistrar());
+    return registrar == nullptr ? nil : registrar->object();
+}
+
 #pragma mark - Life in the host
 
 void PaneShell::mainViewDidLoad() {
+    // A host may send the message once more after the view was loaded.
     if (std::exchange(isSetUp_, true))
         return;
     pane_->mainViewDidLoad();
@@ -98,22 +115,26 @@ void PaneShell::applicationWillTerminate() {
 
 #pragma mark - The table
 
+platform::TableView& PaneShell::hideAppsTable() {
+    return controls_ ? controls_->hideAppsTable() : platform::nullObject<platform::TableView>();
+}
+
 NSInteger PaneShell::numberOfRows() {
-    return static_cast<NSInteger>(pane_->numberOfRowsInTableView(controls_->hideAppsTable()));
+    return static_cast<NSInteger>(pane_->numberOfRowsInTableView(hideAppsTable()));
 }
 
 id PaneShell::objectValue(NSTableColumn* column, NSInteger row) {
     platform::Value value;
     askForRow([&] {
-        value = pane_->tableViewObjectValueForTableColumnRow(controls_->hideAppsTable(),
-                                                             AppKitTableColumn(column), row);
+        value = pane_->tableViewObjectValueForTableColumnRow(hideAppsTable(), AppKitTableColumn(column), row);
     });
     return objectFromValue(value);
 }
 
 void PaneShell::setObjectValue(id value, NSTableColumn* column, NSInteger row) {
     askForRow([&] {
-        pane_->tableViewSetObjectValueForTableColumnRow(controls_->hideAppsTable(), valueFromObject(value),
+        // This message has its row in 32 bits; no list comes near them.
+        pane_->tableViewSetObjectValueForTableColumnRow(hideAppsTable(), valueFromObject(value),
                                                         AppKitTableColumn(column),
                                                         static_cast<std::int32_t>(row));
     });

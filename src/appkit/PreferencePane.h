@@ -1,5 +1,7 @@
 #pragma once
 
+#import "appkit/QBSPSorterControlProtocol.h"
+
 #import <AppKit/AppKit.h>
 #import <PreferencePanes/NSPreferencePane.h>
 
@@ -17,6 +19,15 @@ __attribute__((visibility("default")))
 - (IBAction)toggleSorterProcess:(id)sender;
 - (IBAction)resetFullscreenSettings:(id)sender;
 - (IBAction)addHideApp:(id)sender;
+
+/// What else the pane does for who asks it by name. They do the same as the pane's operations of these names.
+- (void)showSorterApplication;
+- (void)closeSorterApplication;
+- (void)updateToggleButtonTitle;
+- (void)deleteFullScreenSettings;
+- (BOOL)appIsPresentInLoginItems;
+- (NSURL*)sorterAppURL;
+- (QBSPRegistrar)loginItemRegistrar;
 
 @end
 

@@ -43,10 +43,11 @@ using qbsp::appkit::PaneShell;
 - (NSView*)loadMainView {
     QBSPPaneView* view = shell->view();
     [self setMainView:view];
+    [self mainViewDidLoad];
+    // Which control comes first shows once the pane has hidden those it has no use for.
     [self setFirstKeyView:[view firstControl]];
     [self setInitialKeyView:[view firstControl]];
     [self setLastKeyView:[view lastControl]];
-    [self mainViewDidLoad];
     return view;
 }
 
@@ -74,6 +75,36 @@ using qbsp::appkit::PaneShell;
 
 - (IBAction)addHideApp:(id)sender {
     shell->pane().addHideApp(nullptr);
+}
+
+#pragma mark - Operations of the pane itself
+
+- (void)showSorterApplication {
+    shell->pane().showSorterApplication();
+}
+
+- (void)closeSorterApplication {
+    shell->pane().closeSorterApplication();
+}
+
+- (void)updateToggleButtonTitle {
+    shell->pane().updateToggleButtonTitle();
+}
+
+- (void)deleteFullScreenSettings {
+    shell->pane().deleteFullScreenSettings();
+}
+
+- (BOOL)appIsPresentInLoginItems {
+    return shell->pane().appIsPresentInLoginItems();
+}
+
+- (NSURL*)sorterAppURL {
+    return shell->sorterAppURL();
+}
+
+- (QBSPRegistrar)loginItemRegistrar {
+    return shell->loginItemRegistrar();
 }
 
 #pragma mark - NSTableViewDataSource

@@ -10,6 +10,8 @@ class RegistrarAdapter final : public QBSPSorterControl {
   public:
     explicit RegistrarAdapter(QBSPRegistrar registrar) : registrar_(registrar) {}
 
+    [[nodiscard]] QBSPRegistrar object() const { return registrar_; }
+
     /// The class that the object is of.
     [[nodiscard]] Class objectClass() const { return [registrar_ class]; }
 

@@ -2,6 +2,8 @@
 
 #include "appkit/DelayedMessage.h"
 
+#include <utility>
+
 namespace qbsp::appkit {
 
 void AppKitRunLoop::performSelectorAfterDelay(platform::Selector, std::function<void()> message,

@@ -17,7 +17,4 @@ namespace qbsp::appkit {
 /// The text as an autoreleased string, never nil: bytes that are no UTF-8 are read as Latin-1.
 [[nodiscard]] NSString* nsString(std::string_view text);
 
-/// The text, or nil for none.
-[[nodiscard]] NSString* nsStringOrNil(const std::optional<std::string>& text);
-
 } // namespace qbsp::appkit

@@ -26,8 +26,4 @@ NSString* nsString(std::string_view text) {
     return string == nil ? decoded(text, NSISOLatin1StringEncoding) : string;
 }
 
-NSString* nsStringOrNil(const std::optional<std::string>& text) {
-    return text ? nsString(*text) : nil;
-}
-
 } // namespace qbsp::appkit

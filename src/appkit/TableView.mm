@@ -47,7 +47,7 @@ void AppKitTableView::scrollRowToVisible(std::size_t row) {
 }
 
 bool AppKitTableView::hasRow(std::size_t row) const {
-    return static_cast<NSInteger>(row) < [table_.get() numberOfRows];
+    return row < static_cast<std::size_t>([table_.get() numberOfRows]);
 }
 
 } // namespace qbsp::appkit

@@ -1,6 +1,7 @@
 #include "appkit/UserDefaults.h"
 
 #include "appkit/PropertyListConversion.h"
+#include "appkit/StandardDefaults.h"
 #include "appkit/Strings.h"
 
 namespace qbsp::appkit {
@@ -10,15 +11,15 @@ platform::Value AppKitUserDefaults::objectForKey(platform::DefaultsKey key) cons
 }
 
 void AppKitUserDefaults::setBoolForKey(bool value, platform::DefaultsKey key) {
-    [[NSUserDefaults standardUserDefaults] setBool:value ? YES : NO forKey:nsString(key.text)];
+    setStandardDefault([NSNumber numberWithBool:value ? YES : NO], nsString(key.text));
 }
 
 void AppKitUserDefaults::setObjectForKey(const platform::Value& value, platform::DefaultsKey key) {
-    [[NSUserDefaults standardUserDefaults] setObject:objectFromValue(value) forKey:nsString(key.text)];
+    setStandardDefault(objectFromValue(value), nsString(key.text));
 }
 
 bool AppKitUserDefaults::synchronize() {
-    return [[NSUserDefaults standardUserDefaults] synchronize];
+    return flushStandardDefaults();
 }
 
 } // namespace qbsp::appkit

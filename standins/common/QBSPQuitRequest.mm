@@ -3,21 +3,25 @@
 #import <AppKit/AppKit.h>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
+#include <fcntl.h>
 #include <tuple>
 #include <unistd.h>
 
 static std::array<int, 2> pipeEnds;
 
 static void passOn(int) {
+    const int interrupted = errno;
     // A full pipe already holds a request.
     std::ignore = write(pipeEnds[1], "", 1);
+    errno = interrupted;
 }
 
 @implementation QBSPQuitRequest
 
 + (void)heed {
-    if (pipe(pipeEnds.data()) != 0)
+    if (pipe2(pipeEnds.data(), O_CLOEXEC) != 0)
         return;
     NSFileHandle* requests = [[NSFileHandle alloc] initWithFileDescriptor:pipeEnds[0]];
     [[NSNotificationCenter defaultCenter] addObserver:self

@@ -4,7 +4,10 @@
 #import "QBSPPreferencesWindow.h"
 #include "ScenarioLine.h"
 
+#include <cstddef>
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace quarrybook {
 
@@ -24,6 +27,9 @@ class Commands {
     /// Throws ScenarioError when there is no such command or it does not take these arguments; nothing was
     /// done.
     void check(const std::vector<Argument>& words) const;
+
+    /// True for a command that is itself what is to be read.
+    [[nodiscard]] static bool speaksForItself(const std::vector<Argument>& words);
 
     /// Does it. Throws ScenarioError when it cannot be done now.
     [[nodiscard]] Outcome perform(const std::vector<Argument>& words);
@@ -65,6 +71,7 @@ class Commands {
     // The window and what stands before it
     Outcome press(const Arguments&);
     Outcome choose(const Arguments&);
+    Outcome say(const Arguments&);
     Outcome wait(const Arguments&);
     Outcome until(const Arguments&);
     Outcome resize(const Arguments&);

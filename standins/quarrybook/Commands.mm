@@ -1,61 +1,21 @@
 #import "Commands.h"
 
-#import "Picture.h"
+#import "CommandParts.h"
 #import "UserInput.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <iterator>
-#include <tuple>
 
 namespace quarrybook {
 
 namespace {
 
 constexpr std::int64_t deleteKey = 51;
-constexpr std::int64_t escapeKey = 53;
-constexpr double timeForWindows = 0.1;
-
-NSString* string(const std::string& text) {
-    return [NSString stringWithUTF8String:text.c_str()];
-}
-
-template <class View, class Matches> View* findView(NSView* view, Matches matches) {
-    if ([view isKindOfClass:[View class]] && matches(static_cast<View*>(view)))
-        return static_cast<View*>(view);
-    for (NSUInteger index = 0; index < [[view subviews] count]; ++index)
-        if (View* found = findView<View>([[view subviews] objectAtIndex:index], matches))
-            return found;
-    return nil;
-}
-
-Outcome answer(std::string line) {
-    return {.answer = {"= " + std::move(line)}, .pause = 0, .condition = {}};
-}
-
-Outcome after(double pause) {
-    return {.answer = {}, .pause = pause, .condition = {}};
-}
 
 void throwIfHidden(NSView* view, const std::string& name) {
     if ([view isHidden])
         throw ScenarioError("'" + name + "' is hidden");
-}
-
-bool chooseInLastColumn(NSBrowser* browser, NSString* path) {
-    NSMatrix* column = [browser matrixInColumn:[browser lastColumn]];
-    for (NSInteger row = 0; row < [column numberOfRows]; ++row) {
-        if (![[[column cellAtRow:row column:0] stringValue] isEqual:[path lastPathComponent]])
-            continue;
-        [column selectCellAtRow:row column:0];
-        return [column sendAction];
-    }
-    return false;
-}
-
-int flagOf(const Argument& argument) {
-    if (argument.text == "true" || argument.text == "false")
-        return argument.text == "true" ? 1 : 0;
-    return wholeNumber(argument) == 1 ? 1 : 0;
 }
 
 } // namespace
@@ -79,6 +39,7 @@ const Commands::Command* Commands::find(const std::string& name) {
         {"state", 0, "", &Commands::state},
         {"press", 1, "TITLE", &Commands::press},
         {"choose", 1, "PATH", &Commands::choose},
+        {"say", 1, "TEXT", &Commands::say},
         {"wait", 1, "SECONDS", &Commands::wait},
         {"until", 2, "FIELD TEXT", &Commands::until},
         {"resize", 2, "WIDTH HEIGHT", &Commands::resize},
@@ -97,177 +58,13 @@ void Commands::check(const std::vector<Argument>& words) const {
         throw ScenarioError("usage: " + (std::string(command->name) + " " + command->usage));
 }
 
+bool Commands::speaksForItself(const std::vector<Argument>& words) {
+    return words.front().text == "say";
+}
+
 Outcome Commands::perform(const std::vector<Argument>& words) {
     const Arguments arguments(words.begin() + 1, words.end());
     return (this->*find(words.front().text)->action)(arguments);
-}
-
-#pragma mark - The pane
-
-Outcome Commands::create(const Arguments&) {
-    std::ignore = [runner_ mainView];
-    return answer([runner_ pane] == nil ? "false" : "true");
-}
-
-Outcome Commands::loadView(const Arguments&) {
-    if ([runner_ mainView] == nil)
-        throw ScenarioError("there is no pane");
-    return {};
-}
-
-Outcome Commands::select(const Arguments&) {
-    pressButton([preferences_ sorterButton]);
-    return after(timeForWindows);
-}
-
-Outcome Commands::unselect(const Arguments&) {
-    pressButton([preferences_ generalButton]);
-    return after(timeForWindows);
-}
-
-#pragma mark - Its controls
-
-Outcome Commands::edit(const Arguments& arguments) {
-    NSTableView* table = controls().table();
-    NSTableColumn* edited = column(arguments[0]);
-    const NSInteger editedRow = row(arguments[1]);
-    const int wanted = flagOf(arguments[2]);
-    [table scrollRowToVisible:editedRow];
-    const auto columnIndex = static_cast<NSInteger>([[table tableColumns] indexOfObject:edited]);
-    const NSRect cell = [table frameOfCellAtColumn:columnIndex row:editedRow];
-    const NSPoint middle = NSMakePoint(NSMidX(cell), NSMidY(cell));
-    click(table, middle);
-    if ([[edited identifier] isEqual:@"2"] && cellValue(table, edited, editedRow) != std::to_string(wanted))
-        click(table, middle);
-    return {};
-}
-
-Outcome Commands::toggle(const Arguments&) {
-    pressButton(button("toggleLaunchButton"));
-    return {};
-}
-
-Outcome Commands::reset(const Arguments&) {
-    pressButton(button("resetFullscreenSettingsButton"));
-    return {};
-}
-
-Outcome Commands::add(const Arguments&) {
-    pressButton(button("addButton"));
-    return {.answer = {}, .pause = timeForWindows, .condition = [] { return [NSApp modalWindow] != nil; }};
-}
-
-Outcome Commands::set(const Arguments& arguments) {
-    NSButton* box = button(arguments[0].text);
-    const auto wanted = static_cast<NSInteger>(wholeNumber(arguments[1]));
-    for (int clicks = 0;[box state] != wanted; ++clicks) {
-        if (clicks == 2)
-            throw ScenarioError("a click does not bring '" + arguments[0].text + "' into that state");
-        pressButton(box);
-    }
-    return {};
-}
-
-Outcome Commands::change(const Arguments& arguments) {
-    record(recorder(arguments[0]), arguments[1], arguments[2]);
-    return {};
-}
-
-Outcome Commands::offer(const Arguments& arguments) {
-    NSView* offered = recorder(arguments[0]);
-    record(offered, arguments[1], arguments[2]);
-    const std::string reason = [[[offered valueForKey:@"reasonField"] stringValue] UTF8String];
-    const bool listens = [[offered valueForKey:@"isListening"] boolValue];
-    if (listens)
-        std::ignore = pressKey([offered window], escapeKey, 0);
-    return answer("[" + std::string(listens ? "true" : "false") + ", " +
-                  (reason.empty() ? "null" : quoted(reason)) + "]");
-}
-
-#pragma mark - What they show
-
-Outcome Commands::value(const Arguments& arguments) {
-    return answer(cellValue(controls().table(), column(arguments[0]), row(arguments[1])));
-}
-
-Outcome Commands::rows(const Arguments&) {
-    return answer(std::to_string([controls().table() numberOfRows]));
-}
-
-Outcome Commands::findName(const Arguments& arguments) {
-    NSTableView* table = controls().table();
-    NSTableColumn* names = [table tableColumnWithIdentifier:@"1"];
-    for (NSInteger index = 0; index < [table numberOfRows]; ++index) {
-        NSString* name = [[table dataSource] tableView:table objectValueForTableColumn:names row:index];
-        if ([name caseInsensitiveCompare:string(arguments[0].text)] == NSOrderedSame)
-            return answer(std::to_string(index));
-    }
-    return answer("-1");
-}
-
-Outcome Commands::state(const Arguments&) {
-    Outcome outcome;
-    for (const std::string& name : PaneControls::names())
-        outcome.answer.push_back(name + ": " + controls().description(name));
-    return outcome;
-}
-
-#pragma mark - The window and what stands before it
-
-Outcome Commands::press(const Arguments& arguments) {
-    NSWindow* modalWindow = [NSApp modalWindow];
-    NSWindow* window = modalWindow == nil ? [preferences_ window] : modalWindow;
-    NSButton* titled = findView<NSButton>([window contentView], [&](NSButton* candidate) {
-        return [[candidate title] isEqual:string(arguments[0].text)] && [candidate isEnabled];
-    });
-    if (titled == nil)
-        throw ScenarioError("there is no button '" + arguments[0].text + "' to press");
-    pressButton(titled);
-    return after(timeForWindows);
-}
-
-Outcome Commands::choose(const Arguments& arguments) {
-    NSWindow* panel = [NSApp modalWindow];
-    NSBrowser* browser = findView<NSBrowser>([panel contentView], [](NSBrowser*) { return true; });
-    if (browser == nil)
-        throw ScenarioError("there is no panel to choose in");
-    NSString* path = string(arguments[0].text);
-    if (![browser setPath:[path stringByDeletingLastPathComponent]] || !chooseInLastColumn(browser, path))
-        throw ScenarioError("the panel does not show '" + arguments[0].text + "'");
-    return after(timeForWindows);
-}
-
-Outcome Commands::wait(const Arguments& arguments) {
-    return after(seconds(arguments[0]));
-}
-
-Outcome Commands::until(const Arguments& arguments) {
-    id control = controls().named(arguments[0].text);
-    const std::string wanted = arguments[1].text;
-    if (![control isKindOfClass:[NSControl class]])
-        throw ScenarioError("there is no control '" + arguments[0].text + "'");
-    const bool hasTitle = [control isKindOfClass:[NSButton class]];
-    return {.answer = {}, .pause = 0, .condition = [=] {
-                return [hasTitle ? [control title] : [control stringValue] isEqual:string(wanted)] == YES;
-            }};
-}
-
-Outcome Commands::resize(const Arguments& arguments) {
-    [[preferences_ window] setContentSize:NSMakeSize(static_cast<CGFloat>(wholeNumber(arguments[0])),
-                                                     static_cast<CGFloat>(wholeNumber(arguments[1])))];
-    return after(timeForWindows);
-}
-
-Outcome Commands::picture(const Arguments& arguments) {
-    NSWindow* modalWindow = [NSApp modalWindow];
-    if (!writePicture(modalWindow == nil ? [preferences_ window] : modalWindow, arguments[0].text))
-        throw ScenarioError("'" + arguments[0].text + "' could not be written");
-    return {};
-}
-
-Outcome Commands::close(const Arguments&) {
-    [[preferences_ window] performClose:nil];
-    return {};
 }
 
 #pragma mark - Finding things

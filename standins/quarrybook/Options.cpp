@@ -1,5 +1,6 @@
 #include "Options.h"
 
+#include <cstddef>
 #include <functional>
 #include <map>
 

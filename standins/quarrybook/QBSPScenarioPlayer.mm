@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <unistd.h>
+#include <utility>
 
 using quarrybook::Argument;
 using quarrybook::Commands;
@@ -160,7 +161,8 @@ void QBSPQuitWithStatus(int status) {
     Scenario& scenario = scenarioAt(playing);
     const std::vector<Argument> words = quarrybook::split(line);
     scenario.commands.check(words);
-    printLine("> " + line);
+    if (!Commands::speaksForItself(words))
+        printLine("> " + line);
     Outcome outcome = scenario.commands.perform(words);
     for (const std::string& answer : outcome.answer)
         printLine(answer);

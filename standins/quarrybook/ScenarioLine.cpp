@@ -1,6 +1,7 @@
 #include "ScenarioLine.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>

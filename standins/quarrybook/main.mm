@@ -1,6 +1,7 @@
 #include "Options.h"
 #import "QBSPHostApplication.h"
 #import "QBSPHostDelegate.h"
+#import "QBSPQuitRequest.h"
 
 #include <cstdio>
 
@@ -26,6 +27,7 @@ void runApplication(const Options& options) {
     [application setPro:options.edition == Edition::full ? YES : NO];
     QBSPHostDelegate* delegate = [[QBSPHostDelegate alloc] initWithCommandLine:&options];
     [application setDelegate:(id)delegate];
+    [QBSPQuitRequest heed];
     [application run];
     [delegate release];
 }

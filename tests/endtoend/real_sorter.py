@@ -3,7 +3,6 @@
 import os
 import pathlib
 import pwd
-import signal
 import subprocess
 import unittest
 
@@ -57,32 +56,13 @@ class Host:
         return self.lines()
 
 
-class SorterSession(Session):
-    def end(self):
-        # What is being started at this moment appears only after the first look.
-        wait_until(self._is_cleared, "the end of all that was started")
-        super().end()
-
-    def _is_cleared(self):
-        living = self._living()
-        for process in living:
-            try:
-                os.kill(process, signal.SIGKILL)
-            except ProcessLookupError:
-                pass
-        return not living
-
-    def _living(self):
-        return [process for process in self._processes() if is_alive(process)]
-
-
 class SorterTest(unittest.TestCase):
     """Each test in a session of its own; nothing is written outside of it."""
 
     def setUp(self):
         before = files_outside()
         self.addCleanup(lambda: self.assertEqual(files_outside(), before))
-        self.session = self.enterContext(SorterSession())
+        self.session = self.enterContext(Session())
 
     def each_build(self, builds=BUILDS):
         """Options of the host and the identifier of its Sorter, for each build."""
@@ -117,7 +97,7 @@ class SorterTest(unittest.TestCase):
 
     def sorters(self, identifier):
         """The numbers of the processes that run that Sorter."""
-        return [process for process in self.session._living() if executable_of(process) == str(program_of(identifier))]
+        return [process for process in self.session.living() if executable_of(process) == str(program_of(identifier))]
 
     def wait_for_end(self, identifier):
         wait_until(lambda: not self.sorters(identifier), f"the end of {identifier}")
@@ -139,13 +119,6 @@ class SorterTest(unittest.TestCase):
             wait_until(lambda: any(all(part in line for part in parts) for line in self.told(name)), name)
         except AssertionError as error:
             raise AssertionError("\n".join([f"{error}, with {parts}; the log:", *self.log()])) from error
-
-
-def is_alive(process):
-    try:
-        return "\nState:\tZ" not in pathlib.Path(f"/proc/{process}/status").read_text()
-    except OSError:
-        return False
 
 
 def executable_of(process):

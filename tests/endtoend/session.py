@@ -17,6 +17,7 @@ SORTER = "com.quarrybook.Sorter"
 SOLO_SORTER = "com.quarrybook.SoloSorter"
 HIDE_LIST = "UserSpecifiedFullScreenApplications"
 LIMIT = 20
+WINDOW_MANAGER = pathlib.Path(__file__).resolve().parents[2] / "scripts/openbox.xml"
 
 
 def wait_until(condition, what):
@@ -90,7 +91,7 @@ class Session:
         os.close(writer)
         with os.fdopen(reader) as numbers:
             self.environment["DISPLAY"] = ":" + numbers.readline().strip()
-        self.manager = subprocess.Popen(["openbox", "--config-file", "/dev/null"], env=self.environment,
+        self.manager = subprocess.Popen(["openbox", "--config-file", WINDOW_MANAGER], env=self.environment,
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         wait_until(self._has_window_manager, "the window manager")
 
@@ -149,21 +150,37 @@ class Session:
                 pass
 
     def processes_named(self, name):
-        return [process for process in self._processes()
-                if pathlib.Path(f"/proc/{process}/comm").read_text().strip() == name]
+        return [process for process in self.living() if read_process_file(process, "comm").strip() == name]
 
     def end(self):
-        for process in list(self._processes()):
-            try:
-                os.kill(process, signal.SIGKILL)
-            except ProcessLookupError:
-                pass
-        wait_until(lambda: not self._living(), "the end of the session")
+        # What is being started at this moment appears only after the first look.
+        wait_until(self._is_cleared, "the end of the session")
         for program in filter(None, (self.manager, self.server)):
             program.kill()
             program.wait()
         shutil.rmtree(self.folder)
 
-    def _living(self):
-        return [process for process in self._processes()
-                if "\nState:\tZ" not in pathlib.Path(f"/proc/{process}/status").read_text()]
+    def _is_cleared(self):
+        living = self.living()
+        for process in living:
+            try:
+                os.kill(process, signal.SIGKILL)
+            except ProcessLookupError:
+                pass
+        return not living
+
+    def living(self):
+        return [process for process in self._processes() if is_alive(process)]
+
+
+def read_process_file(process, name):
+    """What the system tells of a process; nothing once it has gone."""
+    try:
+        return pathlib.Path(f"/proc/{process}/{name}").read_text()
+    except OSError:
+        return ""
+
+
+def is_alive(process):
+    status = read_process_file(process, "status")
+    return bool(status) and "\nState:\tZ" not in status

@@ -39,7 +39,7 @@ TEST_F(Properties, KeepTheSortersPlaceWholeWhileAnotherThreadSetsIt) {
 
     std::thread setter([&] {
         reading.wait(false);
-        for (int i = 0; i < 20000; ++i)
+        for (int i = 0; i < 60000; ++i)
             pane().setSorterAppURL(i % 2 == 0 ? there : here);
         finished = true;
     });

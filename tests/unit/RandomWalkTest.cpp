@@ -151,7 +151,7 @@ void walk(std::uint32_t seed) {
 TEST(RandomWalk, KeepsTheInvariantsAfterEveryStep) {
     const char* const chosen = std::getenv("SORTERPANE_SEED");
     const std::vector<std::uint32_t> seeds =
-        chosen == nullptr ? std::vector<std::uint32_t>{1, 2, 3, 4, 5}
+        chosen == nullptr ? std::vector<std::uint32_t>{1, 2, 3}
                           : std::vector{static_cast<std::uint32_t>(std::strtoul(chosen, nullptr, 10))};
     for (const std::uint32_t seed : seeds) {
         std::cout << "random walk with SORTERPANE_SEED=" << seed << '\n';

@@ -6,6 +6,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <memory>
+
 namespace qbsp::appkit {
 
 namespace {
@@ -29,9 +31,10 @@ platform::LaunchResult launchApplication(const platform::URL& url, platform::Lau
                                                       options:(NSWorkspaceLaunchOptions)options
                                                 configuration:nil
                                                         error:&error];
-    if (application == nil)
-        return {nullptr, optionalUTF8([error description])};
-    return {std::make_shared<LaunchedApplication>(application), std::nullopt};
+    platform::LaunchResult result{nullptr, optionalUTF8([error description])};
+    if (application != nil)
+        result.application = std::make_shared<LaunchedApplication>(application);
+    return result;
 }
 
 } // namespace qbsp::appkit

@@ -4,6 +4,10 @@
 
 #import <AppKit/AppKit.h>
 
+#include <utility>
+
+static NSString* const bundleIdentifier = @"NSApplicationBundleIdentifier";
+
 @implementation QBSPTerminationReceiver
 
 - (id)initWithObserver:(std::weak_ptr<qbsp::platform::TerminationObserver>)anObserver {
@@ -13,10 +17,13 @@
 }
 
 - (void)applicationTerminated:(NSNotification*)notification {
-    NSRunningApplication* application = [[notification userInfo] objectForKey:NSWorkspaceApplicationKey];
+    NSDictionary* userInfo = [notification userInfo];
+    id identifier = [userInfo objectForKey:bundleIdentifier];
+    if (![identifier isKindOfClass:[NSString class]])
+        identifier = [[userInfo objectForKey:NSWorkspaceApplicationKey] bundleIdentifier];
     qbsp::platform::Notification report;
-    if (NSString* identifier = [application bundleIdentifier])
-        report.userInfo.emplace("NSApplicationBundleIdentifier", qbsp::appkit::utf8(identifier));
+    if (identifier != nil)
+        report.userInfo.emplace(qbsp::appkit::utf8(bundleIdentifier), qbsp::appkit::utf8(identifier));
     if (const auto receiver = observer.lock())
         receiver->appDied(report);
 }

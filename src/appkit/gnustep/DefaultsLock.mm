@@ -1,5 +1,7 @@
 #include "appkit/gnustep/DefaultsLock.h"
 
+#include "appkit/gnustep/DefaultsFolder.h"
+
 namespace qbsp::appkit {
 
 namespace {
@@ -8,18 +10,16 @@ namespace {
 constexpr NSTimeInterval staleAfter = 20;
 constexpr NSTimeInterval betweenTries = 0.05;
 
-NSDistributedLock* lockIn(NSString* defaultsFolder) {
-    NSString* folder = [defaultsFolder stringByAppendingPathComponent:@".lck"];
-    [[NSFileManager defaultManager] createDirectoryAtPath:folder
-                              withIntermediateDirectories:YES
-                                               attributes:nil
-                                                    error:nullptr];
+NSDistributedLock* defaultsLock() {
+    NSString* folder = lockFolder();
+    if (folder == nil)
+        return nil;
     return [NSDistributedLock lockWithPath:[folder stringByAppendingPathComponent:@".GNUstepDefaults.lck"]];
 }
 
 } // namespace
 
-DefaultsLock::DefaultsLock(NSString* defaultsFolder) : lock_(lockIn(defaultsFolder)), held_(acquire()) {}
+DefaultsLock::DefaultsLock() : lock_(defaultsLock()), held_(acquire()) {}
 
 DefaultsLock::~DefaultsLock() {
     if (held_)
@@ -27,6 +27,8 @@ DefaultsLock::~DefaultsLock() {
 }
 
 bool DefaultsLock::acquire() const {
+    if (lock_.get() == nil)
+        return false;
     NSDate* limit = [NSDate dateWithTimeIntervalSinceNow:staleAfter + 1];
     while (![lock_.get() tryLock]) {
         if ([limit timeIntervalSinceNow] < 0)

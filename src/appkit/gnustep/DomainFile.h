@@ -2,15 +2,14 @@
 
 #include "platform/Value.h"
 
-#import <Foundation/Foundation.h>
-
 #include <string>
+#include <utility>
 
 namespace qbsp::appkit {
 
 /// The file that holds one preferences domain of the user.
 class DomainFile {
-  public:
+public:
     explicit DomainFile(std::string domain) : domain_(std::move(domain)) {}
 
     /// What the file holds now; empty when there is no file, or nothing that can be read as a dictionary.
@@ -20,9 +19,8 @@ class DomainFile {
     /// property list is kept under another name first. False when the changes did not reach the file.
     [[nodiscard]] bool merge(const platform::Dictionary& changes) const;
 
-  private:
-    [[nodiscard]] NSString* path() const;
-    [[nodiscard]] bool makeWritable() const;
+private:
+    [[nodiscard]] std::string path() const;
     [[nodiscard]] bool write(const platform::Dictionary& contents) const;
 
     std::string domain_;

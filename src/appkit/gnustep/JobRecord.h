@@ -10,7 +10,8 @@
 namespace qbsp::appkit {
 
 /// The pane's own record of the embedded applications that were switched on, in the form of launchd's jobs. A
-/// file that cannot be read counts as a record of none.
+/// file that is no property list counts as a record of none, and is kept under another name when one is
+/// written.
 class JobRecord {
 public:
     explicit JobRecord(platform::URL file) : file_(std::move(file)) {}

@@ -1,5 +1,7 @@
 #include "appkit/gnustep/JobRecord.h"
 
+#include "appkit/gnustep/SettingAside.h"
+
 #include <filesystem>
 #include <system_error>
 
@@ -44,7 +46,8 @@ bool JobRecord::write(const std::vector<platform::Dictionary>& jobs) {
     std::error_code failure;
     std::filesystem::create_directories(platform::deletingLastPathComponent(file_.path()), failure);
     const platform::Array array(jobs.begin(), jobs.end());
-    return propertyLists_.writeToURL({{jobsKey, array}}, file_, platform::Atomically::yes);
+    return setAsideUnlessDictionary(file_.path()) &&
+           propertyLists_.writeToURL({{jobsKey, array}}, file_, platform::Atomically::yes);
 }
 
 std::string labelOf(const platform::Dictionary& job) {

@@ -1,5 +1,7 @@
 #include "appkit/OpenPanelSheet.h"
 
+#include <utility>
+
 namespace qbsp::appkit {
 
 namespace {

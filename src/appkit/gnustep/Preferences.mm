@@ -7,7 +7,6 @@
 #include <map>
 #include <set>
 #include <string>
-#include <tuple>
 
 namespace qbsp::appkit {
 
@@ -25,10 +24,17 @@ Value hostValue(const std::string& key) {
     return valueFromObject([[defaults persistentDomainForName:hostDomain] objectForKey:nsString(key)]);
 }
 
-/// Preferences on the files of the user's defaults. A value is flushed as it is set; one that could not be is
-/// kept, and seen, until a later flush carries it.
+/// Preferences on the files of the user's defaults. What was set is seen in this process at once; every flush
+/// carries all that waits, whichever domain it is asked for, and so does the end.
 class DefaultsFilePreferences final : public platform::Preferences {
   public:
+    DefaultsFilePreferences() = default;
+
+    ~DefaultsFilePreferences() override { flush(); }
+
+    DefaultsFilePreferences(const DefaultsFilePreferences&) = delete;
+    DefaultsFilePreferences& operator=(const DefaultsFilePreferences&) = delete;
+
     void addSuitePreferencesToApp(ApplicationID application, SuiteID) override {
         withHostAsSuite_.emplace(application.text);
     }
@@ -41,7 +47,6 @@ class DefaultsFilePreferences final : public platform::Preferences {
 
     void setAppValue(PreferenceKey key, const Value& value, ApplicationID application) override {
         unflushed_[std::string(application.text)][std::string(key.text)] = value;
-        std::ignore = flush(application); // synchronize() tells, and tries again
     }
 
     void setValue(PreferenceKey key, const Value& value, ApplicationID application, platform::PreferencesUser,
@@ -51,12 +56,13 @@ class DefaultsFilePreferences final : public platform::Preferences {
 
     bool synchronize(ApplicationID application, platform::PreferencesUser,
                      platform::PreferencesHost) override {
-        return flush(application);
+        flush();
+        return !unflushed_.contains(std::string(application.text));
     }
 
   private:
     [[nodiscard]] Dictionary domainContents(const std::string& domain) const;
-    [[nodiscard]] bool flush(ApplicationID application);
+    void flush();
 
     std::set<std::string> withHostAsSuite_;
     std::map<std::string, Dictionary> unflushed_;
@@ -81,14 +87,9 @@ Dictionary DefaultsFilePreferences::domainContents(const std::string& domain) co
     return contents;
 }
 
-bool DefaultsFilePreferences::flush(ApplicationID application) {
-    const auto waiting = unflushed_.find(std::string(application.text));
-    if (waiting == unflushed_.end())
-        return true;
-    const bool flushed = DomainFile(waiting->first).merge(waiting->second);
-    if (flushed)
-        unflushed_.erase(waiting);
-    return flushed;
+void DefaultsFilePreferences::flush() {
+    std::erase_if(unflushed_,
+                  [](const auto& domain) { return DomainFile(domain.first).merge(domain.second); });
 }
 
 } // namespace

@@ -1,8 +1,14 @@
 #include "appkit/gnustep/PropertyListXML.h"
 
+#include <algorithm>
 #include <charconv>
+#include <concepts>
+#include <cstddef>
 #include <cstdio>
 #include <ctime>
+#include <iterator>
+#include <string_view>
+#include <variant>
 
 namespace qbsp::appkit {
 
@@ -17,33 +23,48 @@ namespace {
 constexpr std::time_t referenceDate =
     978307200; // the first of January 2001, in seconds of the system's clock
 
-std::string escaped(char character) {
-    switch (character) {
-    case '&':
-        return "&amp;";
-    case '<':
-        return "&lt;";
-    case '>':
-        return "&gt;";
-    case '\r':
-        return "&#13;"; // a bare one is read as a line feed
-    case '\t':
-    case '\n':
-        return {character};
-    default:
-        break;
-    }
-    if (static_cast<unsigned char>(character) >= 0x20)
-        return {character};
+struct Escape {
+    std::string_view text;
+    std::string_view xml;
+};
+
+constexpr Escape escapes[] = {
+    {"&", "&amp;"},
+    {"<", "&lt;"},
+    {">", "&gt;"},
+    {"\r", "&#13;"},             // a bare one is read as a line feed
+    {"\\U", "\\U005CU"},         // what looks like GNUstep's escape of a character is none
+    {"\xEF\xBF\xBE", "\\UFFFE"}, // XML has neither of these two characters
+    {"\xEF\xBF\xBF", "\\UFFFF"},
+};
+
+bool isXMLCharacter(char character) {
+    return static_cast<unsigned char>(character) >= 0x20 || character == '\t' || character == '\n';
+}
+
+std::string codeOf(char character) {
     char code[8];
     std::snprintf(code, sizeof code, "\\U%04X", static_cast<unsigned>(character));
     return code;
 }
 
-std::string element(const std::string& name, const std::string& text) {
+/// Moves the beginning of the text to the XML.
+void moveBeginning(std::string_view& text, std::string& xml) {
+    const auto* escape =
+        std::ranges::find_if(escapes, [&](const Escape& each) { return text.starts_with(each.text); });
+    if (escape != std::end(escapes)) {
+        xml += escape->xml;
+        text.remove_prefix(escape->text.size());
+        return;
+    }
+    xml += isXMLCharacter(text.front()) ? std::string(1, text.front()) : codeOf(text.front());
+    text.remove_prefix(1);
+}
+
+std::string element(const std::string& name, std::string_view text) {
     std::string xml = "<" + name + ">";
-    for (const char character : text)
-        xml += escaped(character);
+    while (!text.empty())
+        moveBeginning(text, xml);
     return xml + "</" + name + ">\n";
 }
 

@@ -8,7 +8,7 @@
 #include <memory>
 
 /// Reports to its observer what the workspace announces, and what it does not: an application that was killed
-/// announces nothing, and none announces its identifier. Looks for ended applications until it is invalidated
+/// announces nothing, and few announce their identifier. Looks for ended applications until it is invalidated
 /// or the observer has gone.
 @interface QBSPTerminationReceiver : NSObject {
     std::weak_ptr<qbsp::platform::TerminationObserver> observer;

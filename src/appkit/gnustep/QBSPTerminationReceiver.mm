@@ -71,12 +71,10 @@ static NSNumber* number(id object) {
 - (void)applicationAnnouncedItsEnd:(NSNotification*)notification {
     NSDictionary* application = [notification userInfo];
     const std::string identifier = text([application objectForKey:bundleIdentifier]);
-    if (!identifier.empty())
-        return [self reportEndOf:identifier];
+    const std::string bundle = text([application objectForKey:@"NSApplicationPath"]);
     [self look];
-    terminations->announced(
-        [number([application objectForKey:@"NSApplicationProcessIdentifier"]) intValue],
-        processes::identifierOfBundle(text([application objectForKey:@"NSApplicationPath"])));
+    terminations->announced([number([application objectForKey:@"NSApplicationProcessIdentifier"]) intValue],
+                            identifier.empty() ? processes::identifierOfBundle(bundle) : identifier);
     [self performSelector:@selector(look)
                withObject:nil
                afterDelay:timeToEnd

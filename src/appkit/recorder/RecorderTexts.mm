@@ -8,7 +8,7 @@ namespace {
 
 NSString* localized(NSString* text) {
     NSBundle* bundle = [NSBundle bundleForClass:[QBSPRecorderView class]];
-    return [bundle localizedStringForKey:text value:text table:nil];
+    return [bundle localizedStringForKey:text value:@"" table:nil];
 }
 
 NSString* ownSentence(Refusal refusal) {

@@ -43,11 +43,11 @@
 - (NSTableView*)hideAppsTable;
 - (NSTextField*)hideAppLabel;
 
-/// To be called when texts were set or controls hidden: lays the form out again, and names the controls to
-/// assistive software by their labels.
+/// To be called when texts were set or controls hidden: lays the form out again, and names the controls
+/// without a title to assistive software by their labels.
 - (void)contentsDidChange;
 
-/// The first and the last control in the order of the Tab key.
+/// The first visible and the last control in the order of the Tab key.
 - (NSView*)firstControl;
 - (NSView*)lastControl;
 

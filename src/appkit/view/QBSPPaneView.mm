@@ -2,6 +2,8 @@
 
 #import "appkit/view/ControlMaking.h"
 
+#include <cstddef>
+
 using qbsp::appkit::FormLayout;
 using qbsp::appkit::FormRow;
 using qbsp::appkit::Stretch;
@@ -12,6 +14,10 @@ static const CGFloat narrowestFlagColumn = 70;
 static const CGFloat headerPadding = 16;
 static const CGFloat gap = 10;
 static const CGFloat groupGap = 18;
+
+static bool hasTitle(NSView* control) {
+    return [control isKindOfClass:[NSButton class]] && [[static_cast<NSButton*>(control) title] length] > 0;
+}
 
 @interface QBSPPaneView ()
 - (void)makeLabels;
@@ -119,7 +125,7 @@ static const CGFloat groupGap = 18;
 
 - (void)contentsDidChange {
     for (const FormRow& row : form->rows())
-        if (row.label != nil)
+        if (row.label != nil && !hasTitle(row.controls.front()))
             qbsp::appkit::setAccessibilityLabel(row.controls.front(), [row.label stringValue]);
     qbsp::appkit::setAccessibilityLabel(hideAppsTable, [hideAppLabel stringValue]);
     [self layOutForm];
@@ -208,7 +214,7 @@ static const CGFloat groupGap = 18;
 }
 
 - (NSView*)firstControl {
-    return showAtLoginCheckbox;
+    return [showAtLoginCheckbox isHidden] ? toggleLaunchButton : showAtLoginCheckbox;
 }
 
 - (NSView*)lastControl {

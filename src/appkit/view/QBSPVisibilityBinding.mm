@@ -1,5 +1,10 @@
 #import "appkit/view/QBSPVisibilityBinding.h"
 
+#include "appkit/StandardDefaults.h"
+
+#include <tuple>
+
+// The pane gives it its first value, but its name is not among what the pane offers to a view.
 static NSString* const invisibleKey = @"SorterTabIsInvisible";
 
 @implementation QBSPVisibilityBinding
@@ -25,9 +30,10 @@ static NSString* const invisibleKey = @"SorterTabIsInvisible";
 }
 
 - (void)store:(id)sender {
-    NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
-    [defaults setBool:[checkBox state] != NSOnState forKey:invisibleKey];
-    [defaults synchronize];
+    NSNumber* invisible = [NSNumber numberWithBool:[checkBox state] != NSOnState];
+    qbsp::appkit::setStandardDefault(invisible, invisibleKey);
+    // What could not be written stays set, and the next flush carries it.
+    std::ignore = qbsp::appkit::flushStandardDefaults();
 }
 
 @end

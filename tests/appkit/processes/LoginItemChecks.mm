@@ -128,6 +128,9 @@ TEST_F(LoginItemCheck, IsNoJobWhenTheRecordCannotBeRead) {
     std::ofstream(record) << "<plist><nonsense";
 
     EXPECT_FALSE(sorterIsAJob());
+    services.loginItemSetEnabled(embedded, true);
+    EXPECT_TRUE(sorterIsAJob());
+    EXPECT_EQ(textOf(record.string() + ".unreadable"), "<plist><nonsense");
 }
 
 TEST_F(LoginItemCheck, RegistersAnApplicationThatIsThere) {

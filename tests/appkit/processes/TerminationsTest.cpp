@@ -56,6 +56,27 @@ TEST(Terminations, IncludeAnApplicationThatCameAndWentBetweenTwoLooks) {
     EXPECT_EQ(terminations.look({}), Identifiers());
 }
 
+TEST(Terminations, AreReportedOnceThoughTheAnnouncementTellsOnlyTheIdentifier) {
+    Terminations terminations({sorter, mail});
+
+    terminations.announced(0, sorter.identifier);
+
+    EXPECT_EQ(terminations.look({sorter, mail}), Identifiers());
+    EXPECT_EQ(terminations.look({mail}), Identifiers{sorter.identifier});
+    EXPECT_EQ(terminations.look({}), Identifiers{mail.identifier});
+    terminations.announced(0, mail.identifier);
+    EXPECT_EQ(terminations.look({}), Identifiers());
+}
+
+TEST(Terminations, IncludeAnUnknownApplicationThatToldOnlyItsIdentifier) {
+    Terminations terminations({mail});
+    for (int times = 0; times < 2; ++times) {
+        terminations.announced(0, sorter.identifier);
+
+        EXPECT_EQ(terminations.look({mail}), Identifiers{sorter.identifier});
+    }
+}
+
 TEST(Terminations, DoNotIncludeWhatIsNoApplication) {
     Terminations terminations({});
 

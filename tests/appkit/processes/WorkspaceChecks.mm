@@ -67,6 +67,16 @@ class WorkspaceCheck : public RealSession {
         EXPECT_TRUE(eventually([&] { return told.reportsOf("org.example." + name) == 1; }));
     }
 
+    /// Posts a notice of an end that tells the identifier, and nothing else.
+    static void postNoticeOf(const std::string& identifier) {
+        NSString* text = [NSString stringWithUTF8String:identifier.c_str()];
+        [[[NSWorkspace sharedWorkspace] notificationCenter]
+            postNotificationName:NSWorkspaceDidTerminateApplicationNotification
+                          object:nil
+                        userInfo:[NSDictionary dictionaryWithObject:text
+                                                             forKey:@"NSApplicationBundleIdentifier"]];
+    }
+
     AppKitWorkspace workspace;
     const std::shared_ptr<Observer> observer = std::make_shared<Observer>();
 
@@ -214,14 +224,22 @@ TEST_F(WorkspaceCheck, DoesNotKeepItsObserverAlive) {
 TEST_F(WorkspaceCheck, PassesOnANoticeThatNamesItsApplication) {
     workspace.addObserver(observer, didTerminate);
 
-    [[[NSWorkspace sharedWorkspace] notificationCenter]
-        postNotificationName:NSWorkspaceDidTerminateApplicationNotification
-                      object:nil
-                    userInfo:[NSDictionary dictionaryWithObject:@"org.example.Mail"
-                                                         forKey:@"NSApplicationBundleIdentifier"]];
+    postNoticeOf("org.example.Mail");
 
     EXPECT_TRUE(eventually([&] { return !observer->reported.empty(); }));
     EXPECT_EQ(observer->reported, std::vector<std::string>{"org.example.Mail"});
+}
+
+TEST_F(WorkspaceCheck, ReportsAnEndOnceThoughItsNoticeNamesTheApplication) {
+    startAnother("Mail");
+    startAnother("Clock");
+    workspace.addObserver(observer, didTerminate);
+
+    postNoticeOf("org.example.Mail");
+    endAnother("Mail", *observer);
+
+    endAnother("Clock", *observer);
+    EXPECT_EQ(observer->reportsOf("org.example.Mail"), 1);
 }
 
 } // namespace qbsp::appkit

@@ -15,15 +15,21 @@ std::vector<std::string> Terminations::look(const std::vector<Application>& runn
     for (const auto& [process, identifier] : std::exchange(known_, now))
         if (!now.contains(process)) {
             ended.push_back(identifier);
-            reported_.insert(process.pid);
+            if (process.pid != unknown)
+                reported_.insert_or_assign(process.pid, identifier);
         }
     return ended;
 }
 
 void Terminations::announced(pid_t pid, const std::string& identifier) {
-    const bool isKnown = std::any_of(known_.begin(), known_.end(),
-                                     [&](const auto& application) { return application.first.pid == pid; });
-    const bool wasReported = reported_.erase(pid) > 0;
+    const auto isMeant = [&](pid_t each, const std::string& itsIdentifier) {
+        return pid == unknown ? itsIdentifier == identifier : each == pid;
+    };
+    const bool isKnown = std::ranges::any_of(
+        known_, [&](const auto& application) { return isMeant(application.first.pid, application.second); });
+    const bool wasReported = std::erase_if(reported_, [&](const auto& application) {
+                                 return isMeant(application.first, application.second);
+                             }) > 0;
     if (!isKnown && !wasReported && !identifier.empty())
         known_.emplace(Process{pid}, identifier);
 }

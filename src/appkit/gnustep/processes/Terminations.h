@@ -3,7 +3,6 @@
 #include "processes/Applications.h"
 
 #include <map>
-#include <set>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -19,13 +18,15 @@ public:
     /// The identifiers of the applications that ended since the last look.
     [[nodiscard]] std::vector<std::string> look(const std::vector<Application>& running);
 
-    /// The application of that process number announced its end. It may have come and gone between two looks;
-    /// then the next look reports it.
+    /// The application of that process number announced its end; 0 for one that told only its identifier. It
+    /// may have come and gone between two looks; then the next look reports it.
     void announced(pid_t pid, const std::string& identifier);
 
 private:
+    static constexpr pid_t unknown = 0;
+
     std::map<Process, std::string> known_;
-    std::set<pid_t> reported_;
+    std::map<pid_t, std::string> reported_;
 };
 
 } // namespace processes

@@ -1,5 +1,6 @@
 #include "xdg/WholeFile.h"
 
+#include <cstddef>
 #include <cstdlib>
 #include <string>
 #include <sys/stat.h>
@@ -10,7 +11,10 @@ namespace xdg {
 
 namespace {
 
-constexpr mode_t readableByAll = 0644;
+mode_t modeFor(Readers readers) {
+    constexpr mode_t owner = S_IRUSR | S_IWUSR;
+    return readers == Readers::owner ? owner : owner | S_IRGRP | S_IROTH;
+}
 
 /// A new file beside the one it is to replace; it goes again unless it took that one's place.
 class Draft {
@@ -30,16 +34,16 @@ public:
     Draft(const Draft&) = delete;
     Draft& operator=(const Draft&) = delete;
 
+    [[nodiscard]] bool admit(Readers readers) const { return fchmod(descriptor_, modeFor(readers)) == 0; }
+
     [[nodiscard]] bool write(std::string_view content) const {
-        if (descriptor_ < 0)
-            return false;
         while (!content.empty()) {
             const auto written = ::write(descriptor_, content.data(), content.size());
             if (written <= 0)
                 return false;
             content.remove_prefix(static_cast<std::size_t>(written));
         }
-        return fchmod(descriptor_, readableByAll) == 0 && fsync(descriptor_) == 0;
+        return fsync(descriptor_) == 0;
     }
 
     [[nodiscard]] bool replace(const std::filesystem::path& target) {
@@ -55,13 +59,13 @@ private:
 
 } // namespace
 
-bool writeWhole(const std::filesystem::path& file, std::string_view content) {
+bool writeWhole(const std::filesystem::path& file, std::string_view content, Readers readers) {
     std::error_code failure;
     std::filesystem::create_directories(file.parent_path(), failure);
     if (failure)
         return false;
     Draft draft(file);
-    return draft.write(content) && draft.replace(file);
+    return draft.admit(readers) && draft.write(content) && draft.replace(file);
 }
 
 } // namespace xdg

@@ -1,0 +1,114 @@
+#include "appkit/Preferences.h"
+#include "appkit/PropertyLists.h"
+#include "appkit/UserDefaults.h"
+
+#include "RealSession.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+
+namespace qbsp::appkit {
+
+namespace fs = std::filesystem;
+
+using platform::Value;
+using std::chrono::steady_clock;
+
+namespace {
+
+constexpr platform::ApplicationID full{"org.example.Sorter"};
+constexpr platform::ApplicationID solo{"org.example.SoloSorter"};
+constexpr platform::PreferenceKey key{"Key"};
+
+fs::path defaultsFolder() {
+    return fs::path(std::getenv("HOME")) / "GNUstep/Defaults";
+}
+
+/// A plain file where the folder of the defaults should be.
+class FileInPlaceOfFolder {
+  public:
+    FileInPlaceOfFolder() {
+        fs::rename(defaultsFolder(), away_);
+        std::ofstream(defaultsFolder()) << "no folder";
+    }
+
+    ~FileInPlaceOfFolder() {
+        fs::remove(defaultsFolder());
+        fs::rename(away_, defaultsFolder());
+    }
+
+    FileInPlaceOfFolder(const FileInPlaceOfFolder&) = delete;
+    FileInPlaceOfFolder& operator=(const FileInPlaceOfFolder&) = delete;
+
+  private:
+    fs::path away_ = defaultsFolder().string() + "-away";
+};
+
+class StoreCheck : public RealSession {
+  protected:
+    [[nodiscard]] bool flush(platform::ApplicationID application) {
+        return preferences->synchronize(application, platform::PreferencesUser::currentUser,
+                                        platform::PreferencesHost::anyHost);
+    }
+
+    [[nodiscard]] static fs::path fileOf(platform::ApplicationID application) {
+        return defaultsFolder() / (std::string(application.text) + ".plist");
+    }
+
+    [[nodiscard]] static Value inFile(platform::ApplicationID application) {
+        const auto contents = AppKitPropertyLists().dictionaryWithContentsOfFile(fileOf(application));
+        return platform::entry(contents.value_or(platform::Dictionary()), std::string(key.text));
+    }
+
+    std::unique_ptr<platform::Preferences> preferences = makePreferences();
+    AppKitUserDefaults userDefaults;
+};
+
+} // namespace
+
+TEST_F(StoreCheck, AFlushOfOneDomainCarriesTheOthers) {
+    preferences->setAppValue(key, "a text", full);
+
+    EXPECT_TRUE(flush(solo));
+
+    EXPECT_EQ(inFile(full), Value("a text"));
+}
+
+TEST_F(StoreCheck, WhatStillWaitsIsWrittenAtTheEnd) {
+    preferences->setAppValue(key, "a text", full);
+    EXPECT_FALSE(inFile(full).exists());
+
+    preferences.reset();
+
+    EXPECT_EQ(inFile(full), Value("a text"));
+}
+
+TEST_F(StoreCheck, NobodyElseCanReadADomain) {
+    preferences->setAppValue(key, "a text", full);
+    EXPECT_TRUE(flush(full));
+
+    EXPECT_EQ(fs::status(fileOf(full)).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(StoreCheck, AFlushWithoutAFolderFailsAtOnceAndLosesNothing) {
+    {
+        const FileInPlaceOfFolder obstacle;
+        const auto begin = steady_clock::now();
+        preferences->setAppValue(key, "a text", full);
+        userDefaults.setObjectForKey("a text", {"Key"});
+
+        EXPECT_FALSE(flush(full));
+        EXPECT_FALSE(userDefaults.synchronize());
+
+        EXPECT_LT(steady_clock::now() - begin, std::chrono::seconds(5));
+        EXPECT_EQ(preferences->copyAppValue(key, full), Value("a text"));
+        EXPECT_EQ(userDefaults.objectForKey({"Key"}), Value("a text"));
+    }
+
+    EXPECT_TRUE(flush(full));
+    EXPECT_TRUE(userDefaults.synchronize());
+    EXPECT_EQ(inFile(full), Value("a text"));
+}
+
+} // namespace qbsp::appkit
