@@ -9,7 +9,7 @@ packages_for() {
     application)
         echo cmake ninja-build g++ gobjc++ nlohmann-json3-dev \
             libgnustep-gui-dev libpreferencepanes-dev gnustep-gui-runtime gnustep-base-runtime \
-            libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb openbox x11-utils
+            pkg-config libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb openbox x11-utils
         ;;
     tests)
         echo googletest python3 clang clang-format clang-tidy g++-multilib \

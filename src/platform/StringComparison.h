@@ -16,7 +16,7 @@ public:
 
     /// True when the two differ in case at most.
     [[nodiscard]] bool equalIgnoringCase(std::string_view receiver, std::string_view other) const {
-        return std::is_eq(caseInsensitiveCompare(receiver, other));
+        return caseInsensitiveCompare(receiver, other) == std::weak_ordering::equivalent;
     }
 };
 

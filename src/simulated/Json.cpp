@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -23,6 +24,14 @@ std::string joined(const std::vector<std::string>& parts, char open, char close)
     for (const std::string& part : parts)
         text += (text.size() > 1 ? ", " : "") + part;
     return text + close;
+}
+
+/// True for a text that stands in JSON as it is, as almost all of them do: the library is slow to find that
+/// out.
+bool isPlain(std::string_view text) {
+    return std::ranges::all_of(text, [](char character) {
+        return character >= ' ' && character < '\x7f' && character != '"' && character != '\\';
+    });
 }
 
 /// The digits of the shortest decimal that reads back the same, and the power of ten of the first.
@@ -201,6 +210,8 @@ bool isUtf8(std::string_view text) {
 }
 
 std::string jsonText(std::string_view text) {
+    if (isPlain(text))
+        return '"' + std::string(text) + '"';
     return nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 

@@ -17,7 +17,9 @@ bool jobIsOnDemand(const std::vector<platform::Dictionary>& jobs, platform::Bund
     // The first job decides, whatever a later one of the same label says.
     const auto job =
         std::ranges::find_if(jobs, [label](const auto& candidate) { return isLabelled(candidate, label); });
-    return job != jobs.end() && platform::entry(*job, "OnDemand").boolValue();
+    if (job == jobs.end())
+        return false;
+    return platform::entry(*job, "OnDemand").boolValue();
 }
 
 } // namespace qbsp
