@@ -16,6 +16,9 @@ find_program(CMAKE_OBJCXX_COMPILER g++ REQUIRED)
 
 execute_process(COMMAND ${GNUSTEP_CONFIG} --objc-flags OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE)
 execute_process(COMMAND ${GNUSTEP_CONFIG} --gui-libs OUTPUT_VARIABLE libraries OUTPUT_STRIP_TRAILING_WHITESPACE)
+if(NOT flags OR NOT libraries)
+    message(FATAL_ERROR "${GNUSTEP_CONFIG} tells no flags; it needs make")
+endif()
 separate_arguments(flags)
 separate_arguments(libraries)
 
