@@ -12,7 +12,7 @@ packages_for() {
             pkg-config libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb openbox x11-utils
         ;;
     tests)
-        echo googletest python3 clang clang-format clang-tidy g++-multilib \
+        echo googletest python3 clang libclang-rt-dev clang-format clang-tidy g++-multilib \
             x11-xkb-utils libxtst-dev xdotool desktop-file-utils systempreferences.app
         ;;
     coverage) echo gcovr ;;
