@@ -7,7 +7,10 @@
 /// is left to the run loop.
 @interface QBSPQuitRequest : NSObject
 
-/// From now on answers the signal. The application must exist.
+/// Keeps requests back while the application comes into being, when AppKit would swallow them. Call it first.
++ (void)hold;
+
+/// From now on answers requests, those that were kept back among them. The application must exist.
 + (void)heed;
 
 @end

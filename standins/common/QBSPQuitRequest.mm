@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <pthread.h>
 #include <tuple>
 #include <unistd.h>
 
@@ -18,11 +19,20 @@ static void passOn(int) {
     errno = interrupted;
 }
 
+static void maskRequests(int how) {
+    sigset_t requests;
+    sigemptyset(&requests);
+    sigaddset(&requests, SIGTERM);
+    pthread_sigmask(how, &requests, nullptr);
+}
+
 @implementation QBSPQuitRequest
 
-+ (void)heed {
-    if (pipe2(pipeEnds.data(), O_CLOEXEC) != 0)
-        return;
++ (void)hold {
+    maskRequests(SIG_BLOCK);
+}
+
++ (void)listen {
     NSFileHandle* requests = [[NSFileHandle alloc] initWithFileDescriptor:pipeEnds[0]];
     [[NSNotificationCenter defaultCenter] addObserver:self
                                              selector:@selector(requested:)
@@ -30,6 +40,12 @@ static void passOn(int) {
                                                object:requests];
     [requests readInBackgroundAndNotify];
     std::signal(SIGTERM, passOn);
+}
+
++ (void)heed {
+    if (pipe2(pipeEnds.data(), O_CLOEXEC) == 0)
+        [self listen];
+    maskRequests(SIG_UNBLOCK);
 }
 
 + (void)requested:(NSNotification*)notification {

@@ -22,6 +22,7 @@ void hideOptionsFromAppKit(char* program, const Options& options, char** environ
 }
 
 void runApplication(const Options& options) {
+    [QBSPQuitRequest hold];
     auto* application = static_cast<QBSPHostApplication*>([QBSPHostApplication sharedApplication]);
     [application setSandboxed:options.sandboxed ? YES : NO];
     [application setPro:options.edition == Edition::full ? YES : NO];

@@ -31,6 +31,12 @@ static std::string lineOf(NSNotification* notice, const std::string& values) {
 
 @implementation QBSPSorter
 
+- (id)init {
+    if ((self = [super init]) != nil)
+        eventLog = new standin::EventLog(standin::EventLog::ofUser());
+    return self;
+}
+
 - (void)tellOfStart {
     NSString* identifier = [[NSBundle mainBundle] bundleIdentifier];
     eventLog->tell("started " + std::string([identifier UTF8String]));
@@ -41,7 +47,6 @@ static std::string lineOf(NSNotification* notice, const std::string& values) {
 #pragma mark - NSApplicationDelegate
 
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {
-    eventLog = new standin::EventLog(standin::EventLog::ofUser());
     stores = new standin::Stores([[NSBundle mainBundle] bundleIdentifier]);
     tab = [[QBSPTab alloc] init];
     [tab setVisible:stores->tabIsVisible(usualHost)];

@@ -4,6 +4,7 @@
 #include <csignal>
 
 int main() {
+    [QBSPQuitRequest hold];
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
     // Whoever reads its output may go at any time.
     std::signal(SIGPIPE, SIG_IGN);

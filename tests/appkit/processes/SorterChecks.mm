@@ -56,6 +56,16 @@ TEST_F(SorterCheck, TellsWhoItIsAndQuitsInPeace) {
     EXPECT_TRUE(log().ends_with("\nquitting\n"));
 }
 
+TEST_F(SorterCheck, QuitsWhenItIsAskedWhileItStarts) {
+    const pid_t sorter = execute(sorterExecutable);
+    ASSERT_TRUE(eventually(
+        [&] { return textOf(processes::folderOf(sorter) / "maps").find("libgnustep-cairo") != std::string::npos; }));
+
+    kill(sorter, SIGTERM);
+
+    EXPECT_TRUE(eventually([&] { return !processes::processOfNumber(sorter); }));
+}
+
 TEST_F(SorterCheck, TellsWhatItTookUpWithEachNotice) {
     execute(sorterExecutable);
     ASSERT_TRUE(tells("started com.quarrybook.Sorter"));
