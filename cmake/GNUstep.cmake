@@ -33,3 +33,12 @@ target_compile_options(gnustep_gui INTERFACE
     "$<$<COMPILE_LANGUAGE:OBJCXX>:-std=c++20;-fobjc-call-cxx-cdtors>")
 target_include_directories(gnustep_gui SYSTEM INTERFACE /usr/include/GNUstep)
 target_link_libraries(gnustep_gui INTERFACE ${libraries})
+
+# Has the target's Objective-C++ sources start from AppKit as compiled once, and from further headers of the system's.
+#   precompile_appkit(<target> <header>...)
+function(precompile_appkit target)
+    set(headers AppKit/AppKit.h functional memory optional string vector ${ARGN})
+    foreach(header IN LISTS headers)
+        target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:OBJCXX>:<${header}$<ANGLE-R>>")
+    endforeach()
+endfunction()

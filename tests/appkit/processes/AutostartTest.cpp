@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 const DesktopEntry sorter{"Quarrybook Sorter", "/opt/Quarrybook Sorter"};
 const std::string identifier = "com.quarrybook.Sorter";
 
-std::string textOf(const fs::path& file) {
+std::string contentOf(const fs::path& file) {
     std::ifstream stream(file);
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
@@ -42,7 +42,7 @@ protected:
 TEST_F(AutostartFolder, IsMadeWhenItIsMissing) {
     EXPECT_TRUE(autostart.add(identifier, sorter));
 
-    EXPECT_EQ(textOf(file), desktopEntryText(sorter));
+    EXPECT_EQ(contentOf(file), desktopEntryText(sorter));
     EXPECT_EQ(filesIn(folder), 1);
 }
 
@@ -79,7 +79,7 @@ TEST_F(AutostartFolder, RefusesWhenItCannotBeMade) {
 
     EXPECT_FALSE(autostart.add(identifier, sorter));
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
-    EXPECT_EQ(textOf(temporary.path() / "config"), "a file where the folder should be");
+    EXPECT_EQ(contentOf(temporary.path() / "config"), "a file where the folder should be");
 }
 
 TEST_F(AutostartFolder, RefusesWhenAFolderStandsInTheEntrysPlaceAndLeavesNothingBehind) {
@@ -97,8 +97,8 @@ TEST_F(AutostartFolder, IsReplacedAsAWholeFileThatOthersMayRead) {
 
     ASSERT_TRUE(autostart.add(identifier, sorter));
 
-    EXPECT_EQ(textOf(folder / "earlier"), std::string(100'000, 'x')) << "the old file was written into";
-    EXPECT_EQ(textOf(file), desktopEntryText(sorter));
+    EXPECT_EQ(contentOf(folder / "earlier"), std::string(100'000, 'x')) << "the old file was written into";
+    EXPECT_EQ(contentOf(file), desktopEntryText(sorter));
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
 }
 

@@ -61,7 +61,7 @@ std::string unquoted(std::string_view argument) {
     return text;
 }
 
-std::string quoted(std::string_view argument) {
+std::string inQuotes(std::string_view argument) {
     std::string text = "\"";
     for (const char character : argument) {
         if (escapedInQuotes.find(character) != std::string_view::npos)
@@ -122,8 +122,8 @@ std::string commandLine(std::string_view program) {
     std::string line;
     if (needsShell(program))
         for (const auto& argument : shellPrefix)
-            line += quoted(argument) + " ";
-    return line + quoted(program);
+            line += inQuotes(argument) + " ";
+    return line + inQuotes(program);
 }
 
 std::optional<std::string> programOfCommandLine(std::string_view line) {
