@@ -2,6 +2,7 @@
 #include "appkit/recorder/Keyboard.h"
 #include "appkit/recorder/gnustep/EventModifiers.h"
 #include "appkit/recorder/gnustep/X11Layout.h"
+#include "appkit/recorder/gnustep/X11Repetition.h"
 
 #import <GNUstepGUI/GSDisplayServer.h>
 
@@ -17,6 +18,8 @@ void* xDisplay() {
 
 class GnustepKeyboard : public Keyboard {
   public:
+    GnustepKeyboard() { omitReleasesOfHeldKeys(xDisplay()); }
+
     std::optional<KeyPress> press(NSEvent* event) override;
     void observe(NSEvent* event) override;
     void forgetHeldKeys() override;

@@ -29,6 +29,9 @@ class RecorderView : public testing::Test {
     /// Makes the window the one that keys go to.
     void makeKey(NSWindow* window);
 
+    /// True when the X server tells this application of no release of a key that is held down.
+    [[nodiscard]] bool hearsNoReleaseOfHeldKeys() const;
+
     [[nodiscard]] KeyCombo comboOf(QBSPRecorderView* view) const;
     [[nodiscard]] std::string reason() const;
 

@@ -87,6 +87,10 @@ void RecorderView::makeKey(NSWindow* other) {
         waitUntil([&] { return [NSApp isActive] && [other isKeyWindow] && xWindow(other).hasKeyboard(); }));
 }
 
+bool RecorderView::hearsNoReleaseOfHeldKeys() const {
+    return xWindow(window).hearsNoReleaseOfHeldKeys();
+}
+
 KeyCombo RecorderView::comboOf(QBSPRecorderView* view) const {
     return {.flags = [view flags], .code = [view keyCode]};
 }

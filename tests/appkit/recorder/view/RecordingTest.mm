@@ -207,6 +207,10 @@ TEST_F(RecorderView, DoesNotTakeTheRepetitionsOfAKeyForMoreKeys) {
     EXPECT_EQ(heard.offered.size(), 1U);
 }
 
+TEST_F(RecorderView, HearsNoReleaseBetweenTheRepetitionsHoweverLateTheyArrive) {
+    EXPECT_TRUE(hearsNoReleaseOfHeldKeys());
+}
+
 TEST_F(RecorderView, WorksWithoutADelegate) {
     [first setDelegate:nil];
     armFirst();

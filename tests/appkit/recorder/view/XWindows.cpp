@@ -1,6 +1,6 @@
 #include "XWindows.h"
 
-#include <X11/Xlib.h>
+#include <X11/XKBlib.h>
 
 namespace qbsp::recorder {
 
@@ -16,6 +16,10 @@ bool XWindow::hasKeyboard() const {
     int revertTo = 0;
     XGetInputFocus(static_cast<Display*>(display_), &focused, &revertTo);
     return (focused & clientMask) == (window_ & clientMask);
+}
+
+bool XWindow::hearsNoReleaseOfHeldKeys() const {
+    return XkbGetDetectableAutoRepeat(static_cast<Display*>(display_), nullptr) == True;
 }
 
 XWindow::Point XWindow::onScreen(Point point) const {

@@ -12,6 +12,9 @@ public:
     /// True when keys go to a window of the client that owns this one.
     [[nodiscard]] bool hasKeyboard() const;
 
+    /// True when the client that owns the window hears of no release of a key that is held down.
+    [[nodiscard]] bool hearsNoReleaseOfHeldKeys() const;
+
     struct Point {
         int x;
         int y;
