@@ -58,8 +58,9 @@ TEST_F(SorterCheck, TellsWhoItIsAndQuitsInPeace) {
 
 TEST_F(SorterCheck, QuitsWhenItIsAskedWhileItStarts) {
     const pid_t sorter = execute(sorterExecutable);
-    ASSERT_TRUE(eventually(
-        [&] { return textOf(processes::folderOf(sorter) / "maps").find("libgnustep-cairo") != std::string::npos; }));
+    ASSERT_TRUE(eventually([&] {
+        return textOf(processes::folderOf(sorter) / "maps").find("libgnustep-cairo") != std::string::npos;
+    }));
 
     kill(sorter, SIGTERM);
 
