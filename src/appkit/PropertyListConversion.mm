@@ -2,6 +2,8 @@
 
 #include "appkit/Strings.h"
 
+#include <span>
+
 namespace qbsp::appkit {
 
 using platform::Array;
@@ -38,8 +40,8 @@ Value valueFromNumber(NSNumber* number) {
 }
 
 Data bytesOf(NSData* data) {
-    const auto* bytes = static_cast<const std::byte*>([data bytes]);
-    return Data(bytes, bytes + [data length]);
+    const std::span bytes(static_cast<const std::byte*>([data bytes]), [data length]);
+    return {bytes.begin(), bytes.end()};
 }
 
 Array arrayFrom(NSArray* objects) {

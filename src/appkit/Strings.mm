@@ -12,7 +12,7 @@ NSString* decoded(std::string_view text, NSStringEncoding encoding) {
 
 std::string utf8(NSString* text) {
     NSData* data = [text dataUsingEncoding:NSUTF8StringEncoding allowLossyConversion:YES];
-    return std::string(static_cast<const char*>([data bytes]), [data length]);
+    return {static_cast<const char*>([data bytes]), [data length]};
 }
 
 std::optional<std::string> optionalUTF8(NSString* text) {

@@ -37,8 +37,9 @@ public:
     /// A value of any of the kinds; the constraint leaves copying and moving a Value alone.
     template <class T>
 
+    // NOLINTNEXTLINE(bugprone-forwarding-reference-overload)
     requires(!std::same_as<std::remove_cvref_t<T>, Value> && std::constructible_from<Kind, T>) Value(T&& kind)
-        : kind_(std::forward<T>(kind)) {} // NOLINT(bugprone-forwarding-reference-overload)
+        : kind_(std::forward<T>(kind)) {}
 
     [[nodiscard]] const Kind& kind() const { return kind_; }
 

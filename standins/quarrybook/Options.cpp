@@ -56,6 +56,10 @@ bool isForAppKit(const std::string& word) {
     return word.size() > 1 && word[0] == '-' && word[1] != '-';
 }
 
+Mistake unwelcome(const std::string& word, const std::string& value) {
+    return {"option '" + word + "' does not take '" + value + "'"};
+}
+
 } // namespace
 
 std::variant<Options, Mistake> parseOptions(const std::vector<std::string>& arguments) {
@@ -75,7 +79,7 @@ std::variant<Options, Mistake> parseOptions(const std::vector<std::string>& argu
         if (setting == settings().end())
             options.forAppKit.insert(options.forAppKit.end(), {word, value});
         else if (!setting->second(options, value))
-            return Mistake{"option '" + word + "' does not take '" + value + "'"};
+            return unwelcome(word, value);
     }
     return options;
 }

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <string_view>
 
 namespace quarrybook {
 
@@ -130,18 +130,19 @@ std::vector<Argument> split(const std::string& line) {
 }
 
 std::string quoted(const std::string& text) {
-    static const std::string letters = "\"\\bfnrt";
-    static const std::string meanings = "\"\\\b\f\n\r\t";
+    constexpr std::string_view letters = "\"\\bfnrt";
+    constexpr std::string_view meanings = "\"\\\b\f\n\r\t";
+    constexpr std::string_view digits = "0123456789abcdef";
     std::string json = "\"";
     for (const char character : text) {
         const auto known = meanings.find(character);
-        char code[8];
-        if (known != std::string::npos)
+        const auto code = static_cast<unsigned char>(character);
+        if (known != std::string_view::npos)
             json.append({'\\', letters[known]});
-        else if (static_cast<unsigned char>(character) >= 0x20)
+        else if (code >= 0x20)
             json += character;
-        else if (std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(character)) > 0)
-            json += code;
+        else
+            json.append({'\\', 'u', '0', '0', digits[code >> 4U], digits[code & 0xfU]});
     }
     return json + "\"";
 }

@@ -1,12 +1,11 @@
 #include "appkit/gnustep/PropertyListXML.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <concepts>
 #include <cstddef>
-#include <cstdio>
 #include <ctime>
-#include <iterator>
 #include <string_view>
 #include <variant>
 
@@ -28,31 +27,31 @@ struct Escape {
     std::string_view xml;
 };
 
-constexpr Escape escapes[] = {
-    {"&", "&amp;"},
-    {"<", "&lt;"},
-    {">", "&gt;"},
-    {"\r", "&#13;"},             // a bare one is read as a line feed
-    {"\\U", "\\U005CU"},         // what looks like GNUstep's escape of a character is none
-    {"\xEF\xBF\xBE", "\\UFFFE"}, // XML has neither of these two characters
-    {"\xEF\xBF\xBF", "\\UFFFF"},
+constexpr std::array escapes{
+    Escape{"&", "&amp;"},
+    Escape{"<", "&lt;"},
+    Escape{">", "&gt;"},
+    Escape{"\r", "&#13;"},             // a bare one is read as a line feed
+    Escape{"\\U", "\\U005CU"},         // what looks like GNUstep's escape of a character is none
+    Escape{"\xEF\xBF\xBE", "\\UFFFE"}, // XML has neither of these two characters
+    Escape{"\xEF\xBF\xBF", "\\UFFFF"},
 };
 
 bool isXMLCharacter(char character) {
     return static_cast<unsigned char>(character) >= 0x20 || character == '\t' || character == '\n';
 }
 
-std::string codeOf(char character) {
-    char code[8];
-    std::snprintf(code, sizeof code, "\\U%04X", static_cast<unsigned>(character));
-    return code;
+std::string codeOf(char control) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    const auto code = static_cast<unsigned char>(control);
+    return {'\\', 'U', '0', '0', digits[code >> 4U], digits[code & 0xfU]};
 }
 
 /// Moves the beginning of the text to the XML.
 void moveBeginning(std::string_view& text, std::string& xml) {
     const auto* escape =
         std::ranges::find_if(escapes, [&](const Escape& each) { return text.starts_with(each.text); });
-    if (escape != std::end(escapes)) {
+    if (escape != escapes.end()) {
         xml += escape->xml;
         text.remove_prefix(escape->text.size());
         return;
@@ -69,7 +68,7 @@ std::string element(const std::string& name, std::string_view text) {
 }
 
 std::string base64(const Data& data) {
-    constexpr const char* digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     const auto byte = [&](std::size_t index) {
         return index < data.size() ? std::to_integer<unsigned>(data[index]) : 0U;
     };
@@ -85,16 +84,17 @@ std::string base64(const Data& data) {
 }
 
 std::string shortest(double real) {
-    char digits[64];
-    const auto end = std::to_chars(digits, digits + sizeof digits, real).ptr;
-    return {digits, end};
+    std::array<char, 64> digits{};
+    const char* end = std::to_chars(digits.begin(), digits.end(), real).ptr;
+    return {digits.cbegin(), end};
 }
 
 std::string instant(const Date& date) {
     const std::time_t seconds = referenceDate + static_cast<std::time_t>(date.secondsSinceReferenceDate);
     std::tm parts{};
-    char text[32];
-    return {text, std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", gmtime_r(&seconds, &parts))};
+    std::array<char, 32> text{};
+    gmtime_r(&seconds, &parts);
+    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &parts)};
 }
 
 std::string xmlOf(const Value& value);

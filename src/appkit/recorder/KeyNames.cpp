@@ -8,7 +8,7 @@ namespace qbsp::recorder {
 namespace {
 
 struct FixedName {
-    VirtualKey key;
+    VirtualKey key = noKey;
     KeyName name;
 };
 
@@ -100,12 +100,12 @@ constexpr std::array americanLabels{
 } // namespace
 
 KeyName fixedKeyName(VirtualKey key) {
-    const auto found = std::ranges::find(fixedNames, key, &FixedName::key);
+    const auto* found = std::ranges::find(fixedNames, key, &FixedName::key);
     return found == fixedNames.end() ? KeyName{} : found->name;
 }
 
 std::string_view americanLabel(VirtualKey key) {
-    const auto found = std::ranges::find(americanLabels, key, &PrintedLabel::key);
+    const auto* found = std::ranges::find(americanLabels, key, &PrintedLabel::key);
     return found == americanLabels.end() ? std::string_view{} : found->label;
 }
 

@@ -97,7 +97,7 @@ NSScrollView* makeScrollView(NSTableView* table) {
 
 void setAccessibilityLabel(id element, NSString* label) {
     // By name: not every AppKit has it.
-    const SEL setLabel = NSSelectorFromString(@"setAccessibilityLabel:");
+    SEL setLabel = NSSelectorFromString(@"setAccessibilityLabel:");
     if ([element respondsToSelector:setLabel])
         [element performSelector:setLabel withObject:label];
 }

@@ -2,6 +2,7 @@
 
 #import "appkit/view/ControlMaking.h"
 
+#include <array>
 #include <cstddef>
 
 using qbsp::appkit::FormLayout;
@@ -105,12 +106,11 @@ static bool hasTitle(NSView* control) {
 }
 
 - (void)chainControls {
-    NSView* const order[] = {showAtLoginCheckbox, toggleLaunchButton,           visibilityButton,
-                             noteHotKeyRecorder,  clipHotKeyRecorder,           hideAppsTable,
-                             addButton,           resetFullscreenSettingsButton};
-    const std::size_t count = sizeof order / sizeof *order;
-    for (std::size_t index = 0; index < count; ++index)
-        [order[index] setNextKeyView:order[(index + 1) % count]];
+    const std::array<NSView*, 8> order{showAtLoginCheckbox, toggleLaunchButton,           visibilityButton,
+                                       noteHotKeyRecorder,  clipHotKeyRecorder,           hideAppsTable,
+                                       addButton,           resetFullscreenSettingsButton};
+    for (std::size_t index = 0; index < order.size(); ++index)
+        [order[index] setNextKeyView:order[(index + 1) % order.size()]];
 }
 
 #pragma mark - Layout

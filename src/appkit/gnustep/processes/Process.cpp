@@ -41,7 +41,7 @@ std::optional<Process> processOfNumber(pid_t pid) {
     std::string state;
     fields >> state;
     for (int field = 0; field < fieldsBetweenStateAndStart; ++field)
-        fields.ignore(line.size(), ' ');
+        fields.ignore(static_cast<std::streamsize>(line.size()), ' ');
     Process process{pid, 0};
     if (!(fields >> process.start) || hasEnded(state))
         return std::nullopt;

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,9 +42,10 @@ std::string ownTemporaryFolder() {
 
 std::optional<pid_t> numberOf(const std::filesystem::path& process) {
     const std::string name = process.filename();
+    const char* const endOfName = std::to_address(name.end());
     pid_t pid = 0;
-    const auto [end, failure] = std::from_chars(name.data(), name.data() + name.size(), pid);
-    const bool isNumber = failure == std::errc() && end == name.data() + name.size();
+    const auto [end, failure] = std::from_chars(name.data(), endOfName, pid);
+    const bool isNumber = failure == std::errc() && end == endOfName;
     return isNumber ? std::optional(pid) : std::nullopt;
 }
 

@@ -14,7 +14,7 @@ std::filesystem::path environmentPath(const char* variable) {
 }
 
 std::filesystem::path home() {
-    const auto fromEnvironment = environmentPath("HOME");
+    auto fromEnvironment = environmentPath("HOME");
     if (fromEnvironment.is_absolute())
         return fromEnvironment;
     const passwd* user = getpwuid(getuid());

@@ -135,12 +135,12 @@ constexpr std::array pairs{
 } // namespace
 
 VirtualKey virtualKeyOfX11(X11KeyCode keyCode) {
-    const auto found = std::ranges::find(pairs, keyCode, &KeyPair::x11);
+    const auto* found = std::ranges::find(pairs, keyCode, &KeyPair::x11);
     return found == pairs.end() ? noKey : found->mac;
 }
 
 X11KeyCode x11KeyOfVirtual(VirtualKey key) {
-    const auto found = std::ranges::find(pairs, key, &KeyPair::mac);
+    const auto* found = std::ranges::find(pairs, key, &KeyPair::mac);
     return found == pairs.end() ? 0 : found->x11;
 }
 

@@ -41,7 +41,7 @@ constexpr std::array deadKeys{
 };
 
 std::string textOfKeySym(KeySym keySym) {
-    const auto dead = std::ranges::find(deadKeys, keySym, &DeadKey::keySym);
+    const auto* dead = std::ranges::find(deadKeys, keySym, &DeadKey::keySym);
     if (dead != deadKeys.end())
         return std::string(dead->accent);
     std::array<char, 8> text{};
@@ -63,14 +63,15 @@ bool X11Layout::isModifierKey(X11KeyCode keyCode) const {
 }
 
 CocoaFlags X11Layout::modifier(X11KeyCode keyCode) const {
-    const auto found = std::ranges::find(modifierKeys, keySym(keyCode, 0), &ModifierKey::keySym);
+    const auto* found = std::ranges::find(modifierKeys, keySym(keyCode, 0), &ModifierKey::keySym);
     return found == modifierKeys.end() ? 0 : found->modifier;
 }
 
 unsigned long X11Layout::keySym(X11KeyCode keyCode, unsigned group) const {
     if (display_ == nullptr || keyCode == 0)
         return NoSymbol;
-    return XkbKeycodeToKeysym(static_cast<Display*>(display_), static_cast<KeyCode>(keyCode), group, 0);
+    return XkbKeycodeToKeysym(static_cast<Display*>(display_), static_cast<KeyCode>(keyCode),
+                              static_cast<int>(group), 0);
 }
 
 unsigned X11Layout::presentGroup() const {
