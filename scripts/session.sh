@@ -17,6 +17,8 @@ session_start() { # HOME
         -e "s|^GNUSTEP_USER_DIR_LIBRARY=.*|GNUSTEP_USER_DIR_LIBRARY=$home/GNUstep/Library|" \
         -e "s|^GNUSTEP_USER_DIR_APPS=.*|GNUSTEP_USER_DIR_APPS=$home/GNUstep/Applications|" \
         /etc/GNUstep/GNUstep.conf >"$session_temp/GNUstep.conf"
+    # The user's own display is reached with the key that lies in the user's own home.
+    export XAUTHORITY=${XAUTHORITY-$HOME/.Xauthority}
     export HOME=$home TEMP=$session_temp GNUSTEP_CONFIG_FILE=$session_temp/GNUstep.conf
     export XDG_CONFIG_HOME=$home/.config XDG_DATA_HOME=$home/.local/share XDG_STATE_HOME=$home/.local/state
     export LC_ALL=C.UTF-8

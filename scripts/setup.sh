@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # setup.sh PURPOSE...: installs the Debian packages that the purposes need and the machine lacks; says so first.
-# Purposes: core (the portable rooms), application (the plug-in and what it runs in), tests, coverage.
+# Purposes: core (the portable rooms), application (the plug-in and what it runs in), tests, coverage, tidy.
 set -euo pipefail
 
 packages_for() {
@@ -12,10 +12,11 @@ packages_for() {
             pkg-config libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb openbox x11-utils
         ;;
     tests)
-        echo googletest python3 clang libclang-rt-dev clang-format clang-tidy g++-multilib \
+        echo googletest python3 clang libclang-rt-dev clang-format g++-multilib \
             x11-xkb-utils libxtst-dev xdotool desktop-file-utils systempreferences.app
         ;;
     coverage) echo gcovr ;;
+    tidy) echo clang-tidy ;;
     *)
         echo "setup.sh: unknown purpose '$1'" >&2
         exit 2

@@ -13,4 +13,4 @@
 @end
 
 /// The registrar object. The pane knows it by a class of the protocol's name.
-typedef id<QBSPSorterControl> QBSPRegistrar;
+using QBSPRegistrar = id<QBSPSorterControl>;

@@ -15,6 +15,10 @@ public:
     /// What the file holds now; empty when there is no file, or nothing that can be read as a dictionary.
     [[nodiscard]] platform::Dictionary contents() const;
 
+    /// Keeps a file that is no property list under another name, where nothing overwrites it. False when one
+    /// could not be kept.
+    [[nodiscard]] bool setAsideIfUnreadable() const;
+
     /// Merges the changes into what the file holds; a change to no value removes the key. A file that is no
     /// property list is kept under another name first. False when the changes did not reach the file.
     [[nodiscard]] bool merge(const platform::Dictionary& changes) const;

@@ -45,11 +45,15 @@ Dictionary DomainFile::contents() const {
     return AppKitPropertyLists().dictionaryWithContentsOfFile(path()).value_or(Dictionary());
 }
 
+bool DomainFile::setAsideIfUnreadable() const {
+    return setAsideUnlessDictionary(path());
+}
+
 bool DomainFile::merge(const Dictionary& changes) const {
     // What breaks a stale lock says so through the shared defaults, which must exist by then.
     [NSUserDefaults standardUserDefaults];
     const DefaultsLock lock;
-    return lock.isHeld() && setAsideUnlessDictionary(path()) && write(merged(contents(), changes));
+    return lock.isHeld() && setAsideIfUnreadable() && write(merged(contents(), changes));
 }
 
 bool DomainFile::write(const Dictionary& contents) const {

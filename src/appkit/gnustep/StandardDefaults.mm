@@ -8,6 +8,7 @@
 
 #include <set>
 #include <string>
+#include <tuple>
 
 namespace qbsp::appkit {
 
@@ -23,6 +24,10 @@ std::set<std::string>& unflushedKeys() {
 
 NSString* hostDomain() {
     return [[NSProcessInfo processInfo] processName];
+}
+
+DomainFile hostFile() {
+    return DomainFile(utf8(hostDomain()));
 }
 
 id valueInHostDomain(const std::string& key) {
@@ -49,7 +54,7 @@ Dictionary asStored(const std::set<std::string>& keys) {
 
 void forgetKeysInFile() {
     const Dictionary wanted = asStored(unflushedKeys());
-    const Dictionary stored = DomainFile(utf8(hostDomain())).contents();
+    const Dictionary stored = hostFile().contents();
     std::erase_if(unflushedKeys(), [&](const std::string& key) {
         return platform::entry(stored, key) == platform::entry(wanted, key);
     });
@@ -66,13 +71,15 @@ void setAnew(const std::string& key) {
 
 void setStandardDefault(id value, NSString* key) {
     unflushedKeys().insert(utf8(key));
+    // GNUstep writes changes of its own accord too, and takes what it cannot read for empty.
+    std::ignore = hostFile().setAsideIfUnreadable();
     [[NSUserDefaults standardUserDefaults] setObject:value forKey:key];
 }
 
 bool flushStandardDefaults() {
     NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
     // GNUstep would wait for a lock that it cannot take.
-    if (lockFolder() == nil || ![defaults synchronize])
+    if (lockFolder() == nil || !hostFile().setAsideIfUnreadable() || ![defaults synchronize])
         return false;
     forgetKeysInFile();
     // A flush also counts as a success where the file could not be written, and would not be made again.

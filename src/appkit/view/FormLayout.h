@@ -16,6 +16,7 @@ struct FormRow {
     std::vector<NSView*> controls;
     CGFloat gapAbove;
     Stretch stretch = Stretch::none;
+    CGFloat leastHeight = 0;
 };
 
 /// Lays a form out, from the top of a flipped view: labels end at one line, controls begin at another. The

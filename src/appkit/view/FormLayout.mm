@@ -86,7 +86,7 @@ CGFloat FormLayout::flowWidth(const FormRow& row, const Columns& columns) {
 
 CGFloat FormLayout::heightOf(const FormRow& row, const Columns& columns) {
     const CGFloat label = row.label == nil ? 0 : sizeOfWrappedText(row.label, columns.labelWidth).height;
-    return std::max(label, ControlFlow(row.controls, flowWidth(row, columns)).height());
+    return std::max({row.leastHeight, label, ControlFlow(row.controls, flowWidth(row, columns)).height()});
 }
 
 CGFloat FormLayout::heightLeft(NSSize size, const Columns& columns) const {

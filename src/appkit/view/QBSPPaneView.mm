@@ -1,6 +1,7 @@
 #import "appkit/view/QBSPPaneView.h"
 
 #import "appkit/view/ControlMaking.h"
+#import "appkit/view/TextMeasuring.h"
 
 #include <array>
 #include <cstddef>
@@ -90,7 +91,8 @@ static bool hasTitle(NSView* control) {
     form->addRow({visibilityLabel, {visibilityButton}, groupGap});
     form->addRow({takeNoteLabel, {noteHotKeyRecorder}, groupGap});
     form->addRow({copySelectionLabel, {clipHotKeyRecorder}, gap});
-    form->addRow({nil, {reasonField}, 4, Stretch::width});
+    // A reason comes and goes, and nothing moves: there is always room for the longest.
+    form->addRow({nil, {reasonField}, 4, Stretch::width, qbsp::appkit::heightOfLines(reasonField, 2)});
     form->addRow({hideAppLabel, {hideAppsScrollView}, 4, Stretch::widthAndHeight});
     form->addRow({nil, {addButton, resetFullscreenSettingsButton}, gap});
 }

@@ -10,6 +10,7 @@ namespace {
 
 // What a cell without a border keeps free at its left and right together.
 constexpr CGFloat cellPadding = 6;
+constexpr CGFloat widest = 100000;
 
 NSSize measure(NSString* text, NSFont* font, CGFloat width) {
     NSDictionary* attributes = [NSDictionary dictionaryWithObject:font forKey:NSFontAttributeName];
@@ -17,7 +18,7 @@ NSSize measure(NSString* text, NSFont* font, CGFloat width) {
                                                                                     attributes:attributes]);
     const auto layout = Retained<NSLayoutManager*>::adopt([[NSLayoutManager alloc] init]);
     const auto container = Retained<NSTextContainer*>::adopt(
-        [[NSTextContainer alloc] initWithContainerSize:NSMakeSize(width, 100000)]);
+        [[NSTextContainer alloc] initWithContainerSize:NSMakeSize(width, widest)]);
     [container.get() setLineFragmentPadding:0];
     [layout.get() addTextContainer:container.get()];
     [storage.get() addLayoutManager:layout.get()];
@@ -25,13 +26,21 @@ NSSize measure(NSString* text, NSFont* font, CGFloat width) {
     return [layout.get() usedRectForTextContainer:container.get()].size;
 }
 
+NSSize roomFor(NSSize text) {
+    return NSMakeSize(std::ceil(text.width) + cellPadding, std::ceil(text.height) + 2);
+}
+
 } // namespace
 
 // A cell's own answer leaves the wrapping out on some systems.
 NSSize sizeOfWrappedText(NSTextField* field, CGFloat width) {
     NSString* text = [[field stringValue] length] == 0 ? @" " : [field stringValue];
-    const NSSize size = measure(text, [field font], width - cellPadding);
-    return NSMakeSize(std::ceil(size.width) + cellPadding, std::ceil(size.height) + 2);
+    return roomFor(measure(text, [field font], width - cellPadding));
+}
+
+CGFloat heightOfLines(NSTextField* field, NSUInteger count) {
+    NSString* lines = [@" " stringByPaddingToLength:2 * count - 1 withString:@"\n " startingAtIndex:0];
+    return roomFor(measure(lines, [field font], widest)).height;
 }
 
 } // namespace qbsp::appkit

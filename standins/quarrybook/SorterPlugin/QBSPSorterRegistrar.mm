@@ -87,7 +87,7 @@ std::string sorterBundle() {
 - (void)showSorterApplication {
     const auto launched = processes::launchApplication(sorterBundle());
     if (const auto* reason = std::get_if<processes::Reason>(&launched))
-        NSLog(@"%s", reason->c_str());
+        NSLog(@"ERROR: Failed to start Sorter: %@", [NSString stringWithUTF8String:reason->c_str()]);
 }
 
 - (void)closeSorterApplication {

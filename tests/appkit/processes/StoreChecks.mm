@@ -91,6 +91,17 @@ TEST_F(StoreCheck, NobodyElseCanReadADomain) {
     EXPECT_EQ(fs::status(fileOf(full)).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
+TEST_F(StoreCheck, TheHostsFileIsKeptWhenItIsNoPropertyList) {
+    const platform::ApplicationID host{"RealProcessTests"};
+    std::ofstream(fileOf(host)) << "no property list";
+
+    userDefaults.setObjectForKey("another text", {"Key"});
+
+    EXPECT_TRUE(userDefaults.synchronize());
+    EXPECT_EQ(inFile(host), Value("another text"));
+    EXPECT_EQ(textOf(fileOf(host).string() + ".unreadable"), "no property list");
+}
+
 TEST_F(StoreCheck, AFlushWithoutAFolderFailsAtOnceAndLosesNothing) {
     {
         const FileInPlaceOfFolder obstacle;

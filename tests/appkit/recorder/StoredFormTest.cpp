@@ -1,11 +1,11 @@
 #include "RecordingListener.h"
 #include "appkit/recorder/KeyComboText.h"
 #include "appkit/recorder/gnustep/X11KeyCodes.h"
+#include "hotkeys/StoredHotKey.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdint>
 #include <set>
 #include <string>
 
@@ -17,17 +17,16 @@ constexpr VirtualKey lastKey = 127;
 
 /// A combination as the settings hold it.
 struct StoredCombo {
-    std::int32_t code;
-    platform::CarbonFlags modifiers;
+    platform::Value code;
+    platform::Value modifiers;
 };
 
 StoredCombo stored(const KeyCombo& combo) {
-    return {.code = static_cast<std::int32_t>(combo.code),
-            .modifiers = platform::cocoaToCarbonFlags(combo.flags)};
+    return {.code = storedCode(combo), .modifiers = storedModifiers(combo)};
 }
 
 KeyCombo loaded(const StoredCombo& combo) {
-    return {.flags = platform::carbonToCocoaFlags(combo.modifiers), .code = combo.code};
+    return StoredHotKey::read(combo.code, combo.modifiers).keyCombo();
 }
 
 std::string shown(const KeyCombo& combo) {

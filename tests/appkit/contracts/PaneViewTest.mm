@@ -1,0 +1,33 @@
+#include <gtest/gtest.h>
+
+#import "appkit/view/QBSPPaneView.h"
+#import "appkit/view/TextMeasuring.h"
+
+namespace qbsp::contracts {
+
+namespace {
+
+constexpr CGFloat narrowest = 520;
+
+QBSPPaneView* narrowView() {
+    QBSPPaneView* view = [[[QBSPPaneView alloc] initWithFrame:NSZeroRect] autorelease];
+    [[view takeNoteLabel] setStringValue:@"Take Note Hotkey:"];
+    [[view copySelectionLabel] setStringValue:@"Copy Selection Hotkey:"];
+    [view setFrameSize:NSMakeSize(narrowest, 560)];
+    [view contentsDidChange];
+    return view;
+}
+
+} // namespace
+
+TEST(PaneView, HasRoomForTheLongestReasonBeforeItIsShown) {
+    NSTextField* field = [[narrowView() noteHotKeyRecorder] reasonField];
+
+    [field
+        setStringValue:@"Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well."];
+
+    const NSRect frame = [field frame];
+    EXPECT_GE(NSHeight(frame), appkit::sizeOfWrappedText(field, NSWidth(frame)).height);
+}
+
+} // namespace qbsp::contracts
