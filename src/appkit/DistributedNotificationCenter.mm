@@ -1,8 +1,8 @@
 #include "appkit/DistributedNotificationCenter.h"
 
-#include "appkit/GSTry.h"
 #include "appkit/PropertyListConversion.h"
 #include "appkit/Strings.h"
+#include "objc/GSTry.h"
 
 namespace qbsp::appkit {
 
@@ -16,9 +16,9 @@ void AppKitDistributedNotificationCenter::postNotificationName(
                                                                      userInfo:objectFromDictionary(userInfo)
                                                            deliverImmediately:immediately ? YES : NO];
     };
-    if (tryObjC(post) == nil)
+    if (objc::tryObjC(post) == nil)
         return;
-    if (NSException* failure = tryObjC(post))
+    if (NSException* failure = objc::tryObjC(post))
         log_.log("ERROR: " + std::string(name.text) + " could not be posted: " + utf8([failure reason]));
 }
 

@@ -1,9 +1,9 @@
 #include "appkit/PropertyLists.h"
 
-#include "appkit/GSTry.h"
 #include "appkit/PropertyListConversion.h"
 #include "appkit/Strings.h"
 #include "appkit/XMLData.h"
+#include "objc/GSTry.h"
 
 namespace qbsp::appkit {
 
@@ -18,7 +18,7 @@ id propertyListIn(NSData* data) {
                                                            error:nullptr];
     };
     // A file that is no property list may also raise.
-    return tryObjC(parse) == nil ? list : nil;
+    return objc::tryObjC(parse) == nil ? list : nil;
 }
 
 } // namespace

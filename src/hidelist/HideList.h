@@ -23,7 +23,7 @@ class HideList {
 public:
     using Records = std::vector<std::shared_ptr<HideAppInfo>>;
 
-    /// What lookups answer for a name that no row bears.
+    /// What lookups answer for a name that no row bears: it is no row, and not the first one.
     static constexpr std::int64_t notFound = -1;
 
     /// The comparison must outlive the list.

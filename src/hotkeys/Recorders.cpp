@@ -56,6 +56,7 @@ void QBSPPreferencePane::shortcutRecorderKeyComboDidChange(const platform::Recor
                                                            const platform::KeyCombo& keyCombo) {
     if (&recorder == controls.clipHotKeyRecorder.get()) {
         storeHotKey(clipHotKeyKeys, keyCombo);
+        // The embedded Sorter looks for this one hot key, and no other, outside the host's defaults.
         if (services_.host.isSandboxed())
             mirrorClipHotKey(keyCombo);
     } else if (&recorder == controls.noteHotKeyRecorder.get()) {

@@ -14,6 +14,7 @@ std::optional<platform::URL> sharedSorterFolder(platform::FileManager& files, pl
     if (files.fileExistsAtPath(folder.path()))
         return folder;
     const auto error = files.createDirectoryAtURL(folder, platform::IntermediateDirectories::create);
+    // The folder is answered all the same: whoever writes into it learns that nothing could be written.
     if (error)
         log.log("ERROR: " + *error);
     return folder;

@@ -14,7 +14,7 @@ bool isLabelled(const platform::Dictionary& job, platform::BundleIdentifier labe
 } // namespace
 
 bool jobIsOnDemand(const std::vector<platform::Dictionary>& jobs, platform::BundleIdentifier label) {
-    // The first job decides, whatever a later one of the same label says.
+    // A label names one job; should the system list it twice, the first one counts.
     const auto job =
         std::ranges::find_if(jobs, [label](const auto& candidate) { return isLabelled(candidate, label); });
     if (job == jobs.end())

@@ -38,6 +38,7 @@ void QBSPPreferencePane::closeSorterApplication() {
 }
 
 void QBSPPreferencePane::terminateEmbeddedSorter() {
+    // It is kept after it has ended: asking it again does no harm, and tells when it goes on running.
     if (sandboxedSorterApp_ != nullptr && !sandboxedSorterApp_->terminate())
         services_.log.log("ERROR: Unable to stop the Sorter");
 }

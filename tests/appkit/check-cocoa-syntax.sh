@@ -19,7 +19,7 @@ compile() { # ARCHITECTURE CONFIGURATION ARGUMENT...
         -D__gnu_linux__ -D_GNU_SOURCE -D__ELF__ -Wno-everything -Werror=objc-method-access -fblocks -fobjc-exceptions \
         -std=c++20 -nostdinc -nostdinc++ -isystem "$shim" -isystem "$standard" \
         -isystem "$system/c++/12/$configuration" -isystem "$clang_headers" -isystem "$system" -isystem /usr/include \
-        -idirafter "$gcc_headers" -isystem /usr/include/GNUstep -I "$root/src" "$@"
+        -idirafter "$gcc_headers" -isystem /usr/include/GNUstep -I "$root/src" -I "$root/src/support" "$@"
 }
 
 check() { # ARCHITECTURE CONFIGURATION FILE

@@ -30,6 +30,8 @@ USES = {
     "pane": ["platform", "hidelist", "settings", "sorter"],
     "simulated": ["platform", "pane", "sorter"],
     "appkit": ["platform", "pane"],
+    "support": [],
+    "standins": [],
 }
 PORTABLE = {"platform", "sorter", "settings", "hotkeys", "hidelist", "pane"}
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s*([<"])([^>"]+)[>"]')
@@ -50,7 +52,8 @@ def main():
     source = pathlib.Path(sys.argv[1])
     wrong = 0
     for room in USES:
-        files = [f for f in sorted((source / room).rglob("*")) if f.suffix in {".h", ".cpp", ".mm", ".m"}]
+        folder = source / room if room != "standins" else source.parent / room
+        files = [f for f in sorted(folder.rglob("*")) if f.suffix in {".h", ".cpp", ".mm", ".m"}]
         if not files:
             print(f"{room}: no files")
             wrong += 1

@@ -63,6 +63,18 @@ TEST_F(EmbeddedSorter, IsNotTakenForTheEditionsSorter) {
     EXPECT_NE(transcript().find("QuarrybookSorter\", true)"), std::string::npos);
 }
 
+TEST_F(EmbeddedSorter, IsToldAsItIsWhenSwitchingItHadNoEffect) {
+    for (const bool running : {false, true}) {
+        running ? void(world.running.insert(embedded)) : world.running.clear();
+        select();
+        pane().toggleSorterProcess(nullptr);
+
+        wait("0.75");
+
+        EXPECT_EQ(shown("toggleLaunchButton", "title"), running ? "Quit" : "Show");
+    }
+}
+
 TEST_F(EmbeddedSorter, LeavesTheButtonEnabledWhenItIsSwitched) {
     select();
 

@@ -107,6 +107,19 @@ TEST_F(SorterProcess, KeepsItsTitleAfterAClickWithoutARegistrar) {
     EXPECT_EQ(shown("toggleLaunchButton", "enabled"), true);
 }
 
+TEST_F(SorterProcess, IsToldAsRunningWhileItTakesLongerToQuitThanTheRefreshWaits) {
+    world.running.insert(full);
+    select();
+    pane().toggleSorterProcess(nullptr);
+
+    wait("0.75");
+    EXPECT_EQ(shown("toggleLaunchButton", "title"), "Quit");
+
+    world.running.clear();
+    pane().updateToggleButtonTitle();
+    EXPECT_EQ(shown("toggleLaunchButton", "title"), "Show");
+}
+
 TEST_F(SorterProcess, IsStartedAlsoWhenTheDefaultsCannotBeFlushed) {
     world.synchronizes = false;
     select();

@@ -74,6 +74,17 @@ TEST_F(SandboxedStartAndStop, LogsALaunchThatReportsAnError) {
     EXPECT_FALSE(pane().hasSandboxedSorterApp());
 }
 
+TEST_F(SandboxedStartAndStop, LeavesTheButtonAtShowAfterAFailedLaunch) {
+    world.launches = false;
+    world.launchError = "Damaged.";
+    loadView();
+    start();
+
+    pane().updateToggleButtonTitle();
+
+    EXPECT_EQ(shown("toggleLaunchButton", "title"), "Show");
+}
+
 TEST_F(SandboxedStartAndStop, JudgesALaunchByItsErrorAndNotByItsResult) {
     loadView();
 
@@ -125,6 +136,18 @@ NSApp isSandboxed() -> true
 NSRunningApplication terminate() -> false
 NSLog("ERROR: Unable to stop the Sorter")
 )");
+}
+
+TEST_F(SandboxedStartAndStop, LeavesTheButtonAtQuitAfterATerminationThatCouldNotBeDelivered) {
+    world.terminates = false;
+    loadView();
+    start();
+    world.running.insert(embedded);
+    pane().closeSorterApplication();
+
+    pane().updateToggleButtonTitle();
+
+    EXPECT_EQ(shown("toggleLaunchButton", "title"), "Quit");
 }
 
 TEST_F(SandboxedStartAndStop, StopsNothingBeforeAnythingWasStarted) {

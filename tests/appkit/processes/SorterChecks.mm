@@ -1,5 +1,5 @@
 #include "RealSession.h"
-#include "appkit/GSTry.h"
+#include "objc/GSTry.h"
 #include "processes/Session.h"
 
 #import <Foundation/Foundation.h>
@@ -123,7 +123,7 @@ TEST_F(SorterCheck, ListensOnWhenTheNotificationDaemonIsStartedAnew) {
     ASSERT_TRUE(tells("listening again"));
     EXPECT_TRUE(eventually([&] {
         // The first post after the daemon's end fails.
-        std::ignore = qbsp::appkit::tryObjC([] { post(@"QBSSorterHideAppUpdated", nil); });
+        std::ignore = objc::tryObjC([] { post(@"QBSSorterHideAppUpdated", nil); });
         return log().find("QBSSorterHideAppUpdated") != std::string::npos;
     }));
 }

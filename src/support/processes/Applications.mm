@@ -1,6 +1,6 @@
 #include "processes/Applications.h"
 
-#include "appkit/GSTry.h"
+#include "objc/GSTry.h"
 #include "processes/Session.h"
 
 #import <Foundation/Foundation.h>
@@ -53,7 +53,7 @@ std::optional<Process> processFrom(const std::string& bundle) {
 
 std::variant<Process, Reason> launchExecutable(const std::string& executable) {
     NSTask* task = nil;
-    NSException* failure = qbsp::appkit::tryObjC(
+    NSException* failure = objc::tryObjC(
         [&] { task = [NSTask launchedTaskWithLaunchPath:text(executable) arguments:[NSArray array]]; });
     const auto process = failure == nil ? processOfNumber([task processIdentifier]) : std::nullopt;
     if (process)

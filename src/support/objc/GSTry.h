@@ -12,7 +12,7 @@ NSException* GSTry(void (*function)(void*), void* context);
 #ifdef __cplusplus
 }
 
-namespace qbsp::appkit {
+namespace objc {
 
 /// Calls the function. Answers the exception that it raised, or nil. C++ exceptions pass.
 template <class Function>
@@ -20,5 +20,5 @@ NSException* tryObjC(Function function) {
     return GSTry([](void* context) { (*static_cast<Function*>(context))(); }, &function);
 }
 
-} // namespace qbsp::appkit
+} // namespace objc
 #endif
