@@ -96,17 +96,24 @@ class HideListTest(unittest.TestCase):
         self.assertEqual(self.session.domain(SOLO_SORTER), {HIDE_LIST: {"Books": True}})
 
     def test_takes_an_application_from_the_open_panel(self):
-        self.session.set_domain(SORTER, {HIDE_LIST: {"Atlas": True}})
+        for build in ([], ["--sandboxed"]):
+            for edition, domain in (("full", SORTER), ("solo", SOLO_SORTER)):
+                options = [*build, "--edition", edition]
+                with self.subTest(options=options):
+                    self.check_the_open_panel(options, domain)
+
+    def check_the_open_panel(self, options, domain):
+        self.session.set_domain(domain, {HIDE_LIST: {"Atlas": True}})
         contents = self.session.home / "Programs/Renamed.app/Contents"
-        contents.mkdir(parents=True)
+        contents.mkdir(parents=True, exist_ok=True)
         (contents / "Info.plist").write_text("{CFBundleExecutable = Ledger; CFBundleName = Other;}")
 
         played = self.session.play("select", "add", f"choose {contents.parent}", "press OK", "value 1 1", "state",
-                                   "unselect")
+                                   "unselect", options=options)
 
         self.assertIn('\n= "Ledger"\n', played)
         self.assertRegex(played, r'\nhideAppsTable: .*"selected": \[1\]')
-        self.assertEqual(self.session.domain(SORTER)[HIDE_LIST], {"Atlas": True, "Ledger": False})
+        self.assertEqual(self.session.domain(domain)[HIDE_LIST], {"Atlas": True, "Ledger": False})
 
     def test_is_as_it_was_when_the_open_panel_is_cancelled(self):
         self.session.set_domain(SORTER, {HIDE_LIST: {"Atlas": True}})

@@ -86,12 +86,15 @@ class LifeTest(unittest.TestCase):
         self.assertEqual(self.state()["clipHotKeyRecorder"]["flags"], 0x120000)
 
     def test_a_taken_combination_is_refused_in_words(self):
-        answers = self.session.answers("select", "change note 8 0x120000", "offer clip 8 0x120000")
+        for options in ([], ["--edition", "solo"]):
+            with self.subTest(options=options):
+                answers = self.session.answers("select", "change note 8 0x120000", "offer clip 8 0x120000",
+                                               "change note 9 0x120000", options=options)
 
-        taken, reason = json.loads(answers[0])
-        self.assertTrue(taken)
-        self.assertIn("`Take Note' hot key", reason)
-        self.assertNotIn("Sorter.ClipHotKeyCode", self.session.domain("Quarrybook"))
+                taken, reason = json.loads(answers[0])
+                self.assertTrue(taken)
+                self.assertIn("`Take Note' hot key", reason)
+                self.assertNotIn("Sorter.ClipHotKeyCode", self.session.domain("Quarrybook"))
 
     def test_without_a_registrar_leaving_tells_that_the_login_item_stays(self):
         answers = self.session.answers("select", "unselect", "press Cancel", "select", "rows", "unselect",

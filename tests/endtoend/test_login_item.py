@@ -69,13 +69,14 @@ class LoginItemTest(SorterTest):
     def test_whose_addition_is_refused_is_told_and_check_reaches_the_registrar(self):
         self.session.environment["QUARRYBOOK_REGISTRAR_REFUSES"] = "1"
 
-        lines = self.play("select", "set showAtLoginCheckbox 1", "unselect", "press Check", "state", "select",
-                          "unselect", "press Cancel")
+        for options, identifier in self.each_build(ORDINARY_BUILDS):
+            lines = self.play("select", "set showAtLoginCheckbox 1", "unselect", "press Check", "state", "select",
+                              "unselect", "press Cancel", options=options)
 
-        self.assertEqual(lines.count("showAccountsSystemPreferencePane"), 1)
-        self.assertLess(lines.index("> press Check"), lines.index("showAccountsSystemPreferencePane"))
-        self.assertEqual(check_box_in(lines), 0)
-        self.assertFalse(self.entry(SORTER).exists())
+            self.assertEqual(lines.count("showAccountsSystemPreferencePane"), 1)
+            self.assertLess(lines.index("> press Check"), lines.index("showAccountsSystemPreferencePane"))
+            self.assertEqual(check_box_in(lines), 0)
+            self.assertFalse(self.entry(identifier).exists())
 
     def test_whose_removal_is_refused_is_told_and_stays(self):
         self.play("select", "set showAtLoginCheckbox 1", "unselect")

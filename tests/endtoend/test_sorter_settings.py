@@ -21,17 +21,21 @@ COMMAND, OPTION, CONTROL = 0x100, 0x800, 0x1000
 
 class SorterSettingsTest(SorterTest):
     def test_a_hot_key_of_the_keyboard_reaches_the_sorter(self):
-        self.start_by_hand(SORTER)
-        host = self.begin("select", "wait 60")
-        host.reach("wait 60")
+        for options, identifier in self.each_build(ORDINARY_BUILDS):
+            sorter = self.start_by_hand(identifier)
+            host = self.begin("select", "wait 60", options=options)
+            host.reach("wait 60")
 
-        self.type_until_told(HOT_KEYS, "Quarrybook Preferences: Sorter",
-                             "mousemove", "--window", "%1", *NOTE_RECORDER, "click", "1", "key", "ctrl+alt+n")
+            self.type_until_told(HOT_KEYS, "Quarrybook Preferences: Sorter",
+                                 "mousemove", "--window", "%1", *NOTE_RECORDER, "click", "1", "key", "ctrl+alt+n")
 
-        self.wait_told(HOT_KEYS, FROM_HOST, "userInfo=none", hot_key(45, CONTROL | OPTION))
-        host.process.send_signal(signal.SIGTERM)
-        host.finish()
-        self.wait_told(PREFERENCES, hot_key(45, CONTROL | OPTION))
+            self.wait_told(HOT_KEYS, FROM_HOST, "userInfo=none", hot_key(45, CONTROL | OPTION))
+            host.process.send_signal(signal.SIGTERM)
+            host.finish()
+            self.wait_told(PREFERENCES, hot_key(45, CONTROL | OPTION))
+            sorter.kill()
+            sorter.wait()
+            self.session.domain_file("Quarrybook").unlink()
 
     def test_hot_keys_and_the_visibility_reach_the_sorter(self):
         for options, identifier in self.each_build(ORDINARY_BUILDS):
@@ -129,6 +133,19 @@ class SorterSettingsTest(SorterTest):
         self.assertEqual(self.session.domain(SORTER), {HIDE_LIST: factory_list(SOLO_SORTER)})
         self.assertEqual(self.session.domain(SOLO_SORTER), {HIDE_LIST: {"Books": True}})
         self.wait_told(LIST, FROM_HOST, "userInfo=none", '{"Books"=YES}')
+
+    def test_the_reset_of_the_sandboxed_build_finds_no_factory_list_and_tells_the_edition_s_sorter(self):
+        for (options, _), (_, identifier) in zip(SANDBOXED_BUILDS, ORDINARY_BUILDS):
+            with self.subTest(options=options):
+                self.session.set_domain(SORTER, {HIDE_LIST: {"Atlas": True}, "other": 1})
+                sorter = self.start_by_hand(identifier)
+
+                self.play("select", "reset", "unselect", options=options)
+
+                self.assertEqual(self.session.domain(SORTER), {"other": 1})
+                self.wait_told(LIST, FROM_HOST, "userInfo=none", f"{HIDE_LIST}=none")
+                sorter.kill()
+                sorter.wait()
 
     def test_the_shared_file_holds_two_whole_numbers_that_the_embedded_sorter_reads(self):
         self.start_by_hand(EMBEDDED_SORTER)

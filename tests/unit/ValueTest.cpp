@@ -101,6 +101,12 @@ TEST(IntValue, OfATextWithoutDigitsInFrontIsZero) {
         EXPECT_EQ(intOf(text), 0) << text;
 }
 
+TEST(IntValue, OfATextEndsAtWhatIsNoDigit) {
+    EXPECT_EQ(intOf("1_2"), 1);
+    EXPECT_EQ(intOf("_5"), 0);
+    EXPECT_EQ(intOf("-_5"), 0);
+}
+
 TEST(IntValue, OfATextIsHeldWithin32Bits) {
     EXPECT_EQ(intOf("2147483647"), highest);
     EXPECT_EQ(intOf("2147483648"), highest);
@@ -151,6 +157,11 @@ TEST(BoolValue, OfATextIsTrueWhenItBeginsWithANumberOtherThanZero) {
 TEST(BoolValue, OfAnyOtherTextIsFalse) {
     for (const char* const text : {"", "  ", "NO", "no", "0", "00", "-", "-0", "+", "0x1", "--1", "- 1",
                                    "0.5", "-y", "0y", "\t1", "on", "false"})
+        EXPECT_FALSE(boolOf(text)) << text;
+}
+
+TEST(BoolValue, OfATextIsFalseWhenSomethingElseStandsInFront) {
+    for (const char* text : {"_", "_1", "_Y", "-_1", "0_1", "+_1"})
         EXPECT_FALSE(boolOf(text)) << text;
 }
 
