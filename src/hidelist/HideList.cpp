@@ -40,8 +40,6 @@ std::int64_t HideList::indexOf(std::string_view appName) const {
 }
 
 std::size_t HideList::indexOf(const std::shared_ptr<HideAppInfo>& record) const {
-    if (!exists())
-        return 0;
     return static_cast<std::size_t>(std::ranges::find(records_, record) - records_.begin());
 }
 

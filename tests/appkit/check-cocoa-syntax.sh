@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Checks the syntax of everything in src/appkit that is built on macOS, for both of its processors, by clang against
 # GNUstep's headers and declarations of what only Cocoa has. Unknown messages and functions are errors.
+# check-cocoa-syntax.sh STAMP: the file holds what was found without fault before, and is not read again.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 shim="$root/tests/appkit/cocoa-shim"
@@ -8,6 +9,10 @@ clang_headers=$(clang++ -print-resource-dir)/include
 gcc_headers=$(dirname "$(gcc -print-file-name=include/objc/objc.h)")/..
 system=/usr/include/x86_64-linux-gnu
 standard=/usr/include/c++/12
+
+stamp=$1
+sources=$(cd "$root" && find src tests/appkit/cocoa-shim "$0" -type f -print0 | sort -z | xargs -0 sha256sum | sha256sum)
+[ "$(cat "$stamp" 2>/dev/null)" != "$sources" ] || exit 0
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
@@ -40,3 +45,4 @@ check_all i386 32 >"$folder/i386.log" 2>&1
 wait $!
 cat "$folder"/*.log
 [ ! -s "$folder/x86_64.log" ] && [ ! -s "$folder/i386.log" ]
+echo "$sources" >"$stamp"

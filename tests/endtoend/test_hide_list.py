@@ -96,11 +96,9 @@ class HideListTest(unittest.TestCase):
         self.assertEqual(self.session.domain(SOLO_SORTER), {HIDE_LIST: {"Books": True}})
 
     def test_takes_an_application_from_the_open_panel(self):
-        for build in ([], ["--sandboxed"]):
-            for edition, domain in (("full", SORTER), ("solo", SOLO_SORTER)):
-                options = [*build, "--edition", edition]
-                with self.subTest(options=options):
-                    self.check_the_open_panel(options, domain)
+        for options, domain in (([], SORTER), (["--sandboxed", "--edition", "solo"], SOLO_SORTER)):
+            with self.subTest(options=options):
+                self.check_the_open_panel(options, domain)
 
     def check_the_open_panel(self, options, domain):
         self.session.set_domain(domain, {HIDE_LIST: {"Atlas": True}})

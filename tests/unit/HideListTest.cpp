@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace qbsp {
 
 namespace {
@@ -52,6 +54,21 @@ TEST(HideList, IsSortedByCharactersAndNotByBytes) {
 
     EXPECT_EQ(names(list).front(), "zoo");
     EXPECT_EQ(names(list).back(), "Être");
+}
+
+TEST(HideList, KeepsTheOrderOfNamesThatDifferInCaseAlone) {
+    platform::Dictionary stored;
+    for (unsigned capitals = 0; capitals < 64; ++capitals) {
+        std::string name = "reader";
+        for (std::size_t letter = 0; letter < name.size(); ++letter)
+            if ((capitals >> letter & 1U) != 0)
+                name[letter] = static_cast<char>(name[letter] - 'a' + 'A');
+        stored.emplace(name, true);
+    }
+
+    const auto listed = names(listOf(stored));
+
+    EXPECT_TRUE(std::ranges::equal(listed, stored, {}, {}, [](const auto& entry) { return entry.first; }));
 }
 
 TEST(HideList, KeepsTheStoredFlagsInTheirKinds) {
