@@ -48,8 +48,8 @@ void SorterDomain::writeHideFlags(const platform::Dictionary& flags) {
 
 void SorterDomain::resetHideFlags(const platform::Value& factoryFlags) {
     const SuiteScope suite(preferences_, sorter_);
-    // Installed Solo Sorters rely on it: a reset has always put the factory's list into the full edition's
-    // domain, and left the Solo edition's own list as the user made it.
+    // The full edition's domain whichever edition resets: the factory's list is the full edition's, and the
+    // list that a user of the Solo edition made is never thrown away.
     preferences_.setValue(UserSpecifiedFullScreenApplications, factoryFlags, fullSorter.domain(),
                           platform::PreferencesUser::currentUser, platform::PreferencesHost::anyHost);
     synchronize();
