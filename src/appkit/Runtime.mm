@@ -6,7 +6,7 @@ namespace qbsp::appkit {
 
 QBSPSorterControl* AppKitLoaderClass::defaultLoader() {
     // By name: the class belongs to the host, and nothing here links against it.
-    const SEL defaultLoader = NSSelectorFromString(@"defaultLoader");
+    SEL defaultLoader = NSSelectorFromString(@"defaultLoader");
     const bool answers = [static_cast<id>(loader_) respondsToSelector:defaultLoader];
     id registrar = answers ? [static_cast<id>(loader_) performSelector:defaultLoader] : nil;
     return registrar == nil ? nullptr : &registrar_.emplace(registrar);

@@ -23,8 +23,9 @@ void invokeHandler(void* block, NSInteger result) {
 
 void showSheet(NSOpenPanel* panel, NSWindow* window, std::function<void(std::int64_t)> handler) {
     ResultBlock block{nullptr, 0, 0, invokeHandler, std::move(handler)};
-    [panel beginSheetModalForWindow:window
-                  completionHandler:reinterpret_cast<GSSavePanelCompletionHandler>(&block)];
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a block is what begins like one.
+    auto* handlerBlock = reinterpret_cast<GSSavePanelCompletionHandler>(&block);
+    [panel beginSheetModalForWindow:window completionHandler:handlerBlock];
 }
 
 } // namespace qbsp::appkit

@@ -5,7 +5,7 @@
 
 #import <AppKit/AppKit.h>
 
-#include <iterator>
+#include <array>
 
 static const NSTimeInterval timeBetweenLooks = 0.25;
 
@@ -13,7 +13,8 @@ static const NSTimeInterval timeBetweenLooks = 0.25;
 static const NSTimeInterval timeToEnd = 0.05;
 
 // An alert or a panel may be open meanwhile.
-static NSString* const modes[] = {NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode};
+static const std::array<NSString*, 3> modes{NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
+                                            NSEventTrackingRunLoopMode};
 
 static NSString* const bundleIdentifier = @"NSApplicationBundleIdentifier";
 
@@ -78,7 +79,7 @@ static NSNumber* number(id object) {
     [self performSelector:@selector(look)
                withObject:nil
                afterDelay:timeToEnd
-                  inModes:[NSArray arrayWithObjects:modes count:std::size(modes)]];
+                  inModes:[NSArray arrayWithObjects:modes.data() count:modes.size()]];
 }
 
 @end

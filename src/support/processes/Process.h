@@ -13,6 +13,7 @@ struct Process {
     pid_t pid = 0;
     unsigned long long start = 0; ///< in clock ticks since the machine was started
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): the check takes a comparison with zero for one with a pointer.
     friend auto operator<=>(const Process&, const Process&) = default;
 };
 
