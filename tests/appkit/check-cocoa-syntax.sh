@@ -44,5 +44,7 @@ check_all x86_64 . >"$folder/x86_64.log" 2>&1 &
 check_all i386 32 >"$folder/i386.log" 2>&1
 wait $!
 cat "$folder"/*.log
-[ ! -s "$folder/x86_64.log" ] && [ ! -s "$folder/i386.log" ]
+if [ -s "$folder/x86_64.log" ] || [ -s "$folder/i386.log" ]; then
+    exit 1
+fi
 echo "$sources" >"$stamp"
