@@ -1,23 +1,10 @@
 #pragma once
 
+#import "appkit/recorder/RecorderViewDelegate.h"
+
 #import <AppKit/AppKit.h>
 
-@class QBSPRecorderView;
 struct QBSPRecorderParts;
-
-/// Judges what a recorder was offered, and hears what the user recorded.
-@protocol QBSPRecorderViewDelegate
-
-/// YES refuses the combination. The reason, unless it is left alone, is then shown to the user.
-- (BOOL)recorderView:(QBSPRecorderView*)view
-           isKeyCode:(NSInteger)code
-       andFlagsTaken:(NSUInteger)cocoaFlags
-              reason:(NSString**)reason;
-
-/// The user recorded that combination, or cleared the recorder (code -1, flags 0).
-- (void)recorderView:(QBSPRecorderView*)view keyComboDidChange:(NSInteger)code flags:(NSUInteger)cocoaFlags;
-
-@end
 
 /// A field that records a key combination. A click or Space makes it listen; Esc, the loss of the focus or of
 /// the window's key state end that; Delete and the small cross clear it.

@@ -1,6 +1,6 @@
 #import "appkit/recorder/QBSPRecorderView.h"
 
-#include "appkit/Retained.h"
+#include "appkit/bridge/Retained.h"
 #include "appkit/recorder/KeyComboText.h"
 #include "appkit/recorder/Keyboard.h"
 #include "appkit/recorder/RecorderDrawing.h"

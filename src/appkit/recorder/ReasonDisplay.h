@@ -1,6 +1,6 @@
 #pragma once
 
-#include "appkit/Retained.h"
+#include "appkit/bridge/Retained.h"
 
 #import <AppKit/AppKit.h>
 

@@ -1,13 +1,18 @@
 #include "appkit/recorder/RecorderTexts.h"
 
-#import "appkit/recorder/QBSPRecorderView.h"
+/// A class of this bundle, by which the bundle is found.
+@interface QBSPRecorderTexts : NSObject
+@end
+
+@implementation QBSPRecorderTexts
+@end
 
 namespace qbsp::recorder {
 
 namespace {
 
 NSString* localized(NSString* text) {
-    NSBundle* bundle = [NSBundle bundleForClass:[QBSPRecorderView class]];
+    NSBundle* bundle = [NSBundle bundleForClass:[QBSPRecorderTexts class]];
     return [bundle localizedStringForKey:text value:@"" table:nil];
 }
 

@@ -3,7 +3,7 @@
 #include "appkit/recorder/ReasonDisplay.h"
 #include "appkit/recorder/RecorderLogic.h"
 
-#import "appkit/recorder/QBSPRecorderView.h"
+#import "appkit/recorder/RecorderViewDelegate.h"
 
 namespace qbsp::recorder {
 

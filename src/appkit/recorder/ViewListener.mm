@@ -30,7 +30,7 @@ void ViewListener::comboChanged(const KeyCombo& combo) {
 }
 
 void ViewListener::lookChanged() {
-    [view_ setNeedsDisplay:YES];
+    [static_cast<NSView*>(static_cast<id>(view_)) setNeedsDisplay:YES];
 }
 
 } // namespace qbsp::recorder

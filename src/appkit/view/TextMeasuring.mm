@@ -1,6 +1,6 @@
 #import "appkit/view/TextMeasuring.h"
 
-#include "appkit/Retained.h"
+#include "appkit/bridge/Retained.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "appkit/DistributedNotificationCenter.h"
+#include "appkit/services/DistributedNotificationCenter.h"
 
 #include "platform/Log.h"
 

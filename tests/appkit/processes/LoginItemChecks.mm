@@ -1,8 +1,6 @@
-#include "appkit/LaunchServices.h"
-#include "appkit/ServiceManagement.h"
+#include "appkit/services/Applications.h"
 
 #include "RealSession.h"
-#include "appkit/RunningApplications.h"
 
 #import <Foundation/Foundation.h>
 

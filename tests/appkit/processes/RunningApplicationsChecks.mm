@@ -1,4 +1,4 @@
-#include "appkit/RunningApplications.h"
+#include "appkit/services/Applications.h"
 
 #include "RealSession.h"
 

@@ -1,6 +1,6 @@
-#include "appkit/Preferences.h"
-#include "appkit/PropertyLists.h"
-#include "appkit/UserDefaults.h"
+#include "appkit/stores/Preferences.h"
+#include "appkit/stores/PropertyLists.h"
+#include "appkit/stores/UserDefaults.h"
 
 #include "RealSession.h"
 

@@ -1,7 +1,6 @@
-#include "appkit/Workspace.h"
+#include "appkit/services/Applications.h"
 
 #include "RealSession.h"
-#include "appkit/RunningApplications.h"
 
 #import <AppKit/AppKit.h>
 

@@ -1,9 +1,6 @@
 #include "stages/ApplicationsStage.h"
 
-#include "appkit/LaunchServices.h"
-#include "appkit/RunningApplications.h"
-#include "appkit/ServiceManagement.h"
-#include "appkit/Workspace.h"
+#include "appkit/services/Applications.h"
 #include "on_appkit/Eventually.h"
 #include "processes/Applications.h"
 

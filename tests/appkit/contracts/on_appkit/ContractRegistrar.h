@@ -1,6 +1,6 @@
 #pragma once
 
-#import "appkit/QBSPSorterControlProtocol.h"
+#import "appkit/services/SorterControlProtocol.h"
 
 #include <string>
 #include <vector>

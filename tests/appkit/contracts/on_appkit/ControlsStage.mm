@@ -1,10 +1,8 @@
 #include "stages/ControlsStage.h"
 
-#include "appkit/Button.h"
-#include "appkit/RecorderControl.h"
-#include "appkit/Strings.h"
-#include "appkit/TableView.h"
-#include "appkit/TextField.h"
+#include "appkit/bridge/Strings.h"
+#include "appkit/controls/Controls.h"
+#include "appkit/controls/RecorderControl.h"
 #import "on_appkit/ContractView.h"
 
 namespace qbsp::contracts {

@@ -1,9 +1,8 @@
 #include "stages/DialogsStage.h"
 
-#include "appkit/Alerts.h"
-#include "appkit/OpenPanels.h"
-#include "appkit/Retained.h"
-#include "appkit/RunLoop.h"
+#include "appkit/bridge/Retained.h"
+#include "appkit/services/Dialogs.h"
+#include "appkit/services/RunLoop.h"
 #import "on_appkit/ContractUser.h"
 #include "on_appkit/Eventually.h"
 

@@ -1,7 +1,7 @@
 #include "stages/FilesStage.h"
 
-#include "appkit/FileManager.h"
-#include "appkit/PropertyLists.h"
+#include "appkit/services/FileManager.h"
+#include "appkit/stores/PropertyLists.h"
 
 #include <cstdlib>
 #include <filesystem>

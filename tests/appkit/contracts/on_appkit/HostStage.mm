@@ -1,11 +1,8 @@
 #include "stages/HostStage.h"
 
-#include "appkit/Bundles.h"
-#include "appkit/Host.h"
-#include "appkit/Log.h"
-#include "appkit/ProcessInfo.h"
-#include "appkit/Retained.h"
-#include "appkit/StringComparison.h"
+#include "appkit/bridge/Retained.h"
+#include "appkit/services/HostProcess.h"
+#include "appkit/services/StringComparison.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "stages/NotificationsStage.h"
 
-#include "appkit/DistributedNotificationCenter.h"
-#include "appkit/Log.h"
-#include "appkit/PropertyListConversion.h"
-#include "appkit/Retained.h"
-#include "appkit/Strings.h"
+#include "appkit/bridge/PropertyListConversion.h"
+#include "appkit/bridge/Retained.h"
+#include "appkit/bridge/Strings.h"
+#include "appkit/services/DistributedNotificationCenter.h"
+#include "appkit/services/HostProcess.h"
 #include "on_appkit/Eventually.h"
 
 #import <Foundation/Foundation.h>

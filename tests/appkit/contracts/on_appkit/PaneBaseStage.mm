@@ -1,12 +1,12 @@
 #include "stages/PaneBaseStage.h"
 
-#include "appkit/PreferencePaneBase.h"
-#include "appkit/Retained.h"
+#include "appkit/bridge/Retained.h"
+#include "appkit/services/PreferencePaneBase.h"
 
 #include <utility>
 
 /// The principal object as its base class sees it.
-@interface ContractPane : NSPreferencePane {
+@interface ContractPane : NSPreferencePane <QBSPInheritedMessages> {
   @public
     bool refused;
     std::vector<std::string> messages;
@@ -72,10 +72,7 @@ class AppKitStage final : public PaneBaseStage {
     const Retained<NSView*> view_ =
         Retained<NSView*>::adopt([[NSView alloc] initWithFrame:NSMakeRect(0, 0, 100, 100)]);
     const Retained<NSWindow*> window_ = Retained<NSWindow*>::adopt(makeWindow());
-    appkit::AppKitPreferencePaneBase base_ {
-        static_cast<::QBSPPreferencePane*>(static_cast<id>(pane_.get())),
-            [NSBundle bundleWithPath:@PANE_BUNDLE]
-    };
+    appkit::AppKitPreferencePaneBase base_ { pane_.get(), [NSBundle bundleWithPath:@PANE_BUNDLE] };
 };
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "stages/RegistrarStage.h"
 
-#include "appkit/Bundles.h"
-#include "appkit/Runtime.h"
+#include "appkit/services/HostProcess.h"
+#include "appkit/services/Registrar.h"
 #include "on_appkit/ContractRegistrar.h"
 
 #include <filesystem>

@@ -1,8 +1,8 @@
 #include "stages/StoresStage.h"
 
-#include "appkit/Preferences.h"
-#include "appkit/PropertyLists.h"
-#include "appkit/UserDefaults.h"
+#include "appkit/stores/Preferences.h"
+#include "appkit/stores/PropertyLists.h"
+#include "appkit/stores/UserDefaults.h"
 
 #include <gtest/gtest.h>
 

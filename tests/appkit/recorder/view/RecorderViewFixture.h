@@ -1,7 +1,7 @@
 #pragma once
 
 #include "RecorderWindow.h"
-#include "appkit/Retained.h"
+#include "appkit/bridge/Retained.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "appkit/bridge/Retained.h"
+#include "appkit/recorder/QBSPRecorderView.h"
+#include "platform/Controls.h"
+
+@class QBSPRecorderListener;
+
+namespace qbsp::appkit {
+
+/// A recorder of the pane's view. It stays the view's delegate until it goes.
+class AppKitRecorderControl final : public platform::RecorderControl {
+  public:
+    explicit AppKitRecorderControl(QBSPRecorderView* view);
+    ~AppKitRecorderControl() override;
+    AppKitRecorderControl(const AppKitRecorderControl&) = delete;
+    AppKitRecorderControl& operator=(const AppKitRecorderControl&) = delete;
+
+    void setHidden(bool hidden) override;
+    void setKeyCombo(const platform::KeyCombo& keyCombo) override;
+    void setDelegate(platform::RecorderDelegate& delegate) override;
+
+  private:
+    Retained<QBSPRecorderView*> view_;
+    Retained<QBSPRecorderListener*> listener_;
+};
+
+} // namespace qbsp::appkit

@@ -1,0 +1,141 @@
+#include "appkit/plugin/PaneShell.h"
+
+#include "appkit/bridge/PropertyListConversion.h"
+#include "appkit/bridge/URLs.h"
+#include "appkit/services/Registrar.h"
+#include "platform/NullObjects.h"
+
+#include <cstdint>
+#include <stdexcept>
+#include <utility>
+
+namespace qbsp::appkit {
+
+namespace {
+
+/// Asks the pane for a row. One that the list does not have is told as AppKit's own lists tell it.
+template <class Ask> void askForRow(Ask ask) {
+    try {
+        ask();
+        return;
+    } catch (const std::out_of_range&) {
+        // Raised below: an exception of the one language must not leave a handler of the other.
+    }
+    [NSException raise:NSRangeException format:@"The hide list does not have that row."];
+}
+
+void connect(NSButton* button, id target, SEL action) {
+    [button setTarget:target];
+    [button setAction:action];
+}
+
+} // namespace
+
+PaneShell::PaneShell(PrincipalObject object, NSBundle* bundle)
+    : object_(object), bundle_(bundle), services_(object, [object class]), base_(object, bundle) {}
+
+// A host may keep the view longer than the pane.
+PaneShell::~PaneShell() {
+    QBSPPaneView* view = view_.get();
+    connect([view toggleLaunchButton], nil, nullptr);
+    connect([view resetFullscreenSettingsButton], nil, nullptr);
+    connect([view addButton], nil, nullptr);
+    [[view hideAppsTable] setDataSource:nil];
+}
+
+bool PaneShell::create() {
+    pane_ = qbsp::QBSPPreferencePane::initWithBundle(services_.references(), base_);
+    return pane_ != nullptr;
+}
+
+#pragma mark - The view
+
+QBSPPaneView* PaneShell::view() {
+    if (view_.get() == nil)
+        makeView();
+    return view_.get();
+}
+
+void PaneShell::makeView() {
+    QBSPPaneView* view = [[QBSPPaneView alloc] initWithFrame:NSZeroRect];
+    view_ = Retained<QBSPPaneView*>::adopt(view);
+    visibility_ = Retained<QBSPVisibilityBinding*>::adopt(
+        [[QBSPVisibilityBinding alloc] initWithCheckBox:[view visibilityButton]]);
+    connect([view toggleLaunchButton], object_, @selector(toggleSorterProcess:));
+    connect([view resetFullscreenSettingsButton], object_, @selector(resetFullscreenSettings:));
+    connect([view addButton], object_, @selector(addHideApp:));
+    [[view addButton] setTitle:[bundle_ localizedStringForKey:@"Add..." value:@"" table:nil]];
+    [[view hideAppsTable] setDataSource:static_cast<id>(object_)];
+    pane_->controls = controls_.emplace(view).outlets();
+}
+
+#pragma mark - What the pane knows
+
+NSURL* PaneShell::sorterAppURL() {
+    return nsURL(pane_->sorterAppURL());
+}
+
+QBSPRegistrar PaneShell::loginItemRegistrar() {
+    const auto* registrar = dynamic_cast<const RegistrarAdapter*>(pane_->loginItemRegistrar());
+    return registrar == nullptr ? nil : registrar->object();
+}
+
+#pragma mark - Life in the host
+
+void PaneShell::mainViewDidLoad() {
+    // A host may send the message once more after the view was loaded.
+    if (std::exchange(isSetUp_, true))
+        return;
+    pane_->mainViewDidLoad();
+    [visibility_.get() refresh];
+    [view_.get() contentsDidChange];
+}
+
+void PaneShell::willSelect() {
+    isShown_ = true;
+    [visibility_.get() refresh];
+    pane_->willSelect();
+    [view_.get() contentsDidChange];
+}
+
+void PaneShell::willUnselect() {
+    if (applicationTerminates_)
+        return;
+    isShown_ = false;
+    pane_->willUnselect();
+}
+
+void PaneShell::applicationWillTerminate() {
+    if (isShown_)
+        willUnselect();
+    applicationTerminates_ = true;
+}
+
+#pragma mark - The table
+
+platform::TableView& PaneShell::hideAppsTable() {
+    return controls_ ? controls_->hideAppsTable() : platform::nullObject<platform::TableView>();
+}
+
+NSInteger PaneShell::numberOfRows() {
+    return static_cast<NSInteger>(pane_->numberOfRowsInTableView(hideAppsTable()));
+}
+
+id PaneShell::objectValue(NSTableColumn* column, NSInteger row) {
+    platform::Value value;
+    askForRow([&] {
+        value = pane_->tableViewObjectValueForTableColumnRow(hideAppsTable(), AppKitTableColumn(column), row);
+    });
+    return objectFromValue(value);
+}
+
+void PaneShell::setObjectValue(id value, NSTableColumn* column, NSInteger row) {
+    askForRow([&] {
+        // This message has its row in 32 bits; no list comes near them.
+        pane_->tableViewSetObjectValueForTableColumnRow(hideAppsTable(), valueFromObject(value),
+                                                        AppKitTableColumn(column),
+                                                        static_cast<std::int32_t>(row));
+    });
+}
+
+} // namespace qbsp::appkit

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "appkit/services/SorterControlProtocol.h"
+#include "platform/QBSPSorterControl.h"
+#include "platform/Runtime.h"
+
+#include <optional>
+
+namespace qbsp::appkit {
+
+/// The host's registrar object, which the host owns.
+class RegistrarAdapter final : public QBSPSorterControl {
+  public:
+    explicit RegistrarAdapter(QBSPRegistrar registrar) : registrar_(registrar) {}
+
+    [[nodiscard]] QBSPRegistrar object() const { return registrar_; }
+
+    /// The class that the object is of.
+    [[nodiscard]] Class objectClass() const { return [registrar_ class]; }
+
+    [[nodiscard]] bool applicationIsRegistered(const std::optional<platform::URL>& application) override;
+    [[nodiscard]] bool registerApplication(const std::optional<platform::URL>& application) override;
+    [[nodiscard]] bool unregisterApplication(const std::optional<platform::URL>& application) override;
+    void showAccountsSystemPreferencePane() override;
+    void showSorterApplication() override;
+    void closeSorterApplication() override;
+
+  private:
+    QBSPRegistrar registrar_;
+};
+
+/// A class that answers `defaultLoader`. It keeps the adapter of what was answered last.
+class AppKitLoaderClass final : public platform::LoaderClass {
+  public:
+    explicit AppKitLoaderClass(Class loader) : loader_(loader) {}
+
+    [[nodiscard]] QBSPSorterControl* defaultLoader() override;
+
+  private:
+    Class loader_;
+    std::optional<RegistrarAdapter> registrar_;
+};
+
+/// The classes in this process. It keeps the adapter of the class that was found last.
+class AppKitRuntime final : public platform::Runtime {
+  public:
+    [[nodiscard]] platform::LoaderClass* classFromString(platform::ClassName name) override;
+
+  private:
+    std::optional<AppKitLoaderClass> found_;
+};
+
+} // namespace qbsp::appkit

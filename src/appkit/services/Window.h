@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/PreferencePaneBase.h"
+
+#import <AppKit/AppKit.h>
+
+namespace qbsp::appkit {
+
+/// A window of AppKit, for as long as somebody else keeps it.
+class AppKitWindow final : public platform::Window {
+public:
+    explicit AppKitWindow(NSWindow* window) : window_(window) {}
+
+    [[nodiscard]] NSWindow* nsWindow() const { return window_; }
+
+private:
+    NSWindow* window_;
+};
+
+} // namespace qbsp::appkit

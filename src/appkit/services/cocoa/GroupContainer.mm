@@ -1,0 +1,16 @@
+#include "appkit/services/GroupContainer.h"
+
+#include "appkit/bridge/Strings.h"
+#include "appkit/bridge/URLs.h"
+
+namespace qbsp::appkit {
+
+std::optional<platform::URL> groupContainerURL(platform::ApplicationGroup group) {
+    NSFileManager* manager = [NSFileManager defaultManager];
+    const SEL container = @selector(containerURLForSecurityApplicationGroupIdentifier:);
+    if (![manager respondsToSelector:container]) // before 10.8 there are no groups
+        return std::nullopt;
+    return urlFromNSURL([manager containerURLForSecurityApplicationGroupIdentifier:nsString(group.text)]);
+}
+
+} // namespace qbsp::appkit

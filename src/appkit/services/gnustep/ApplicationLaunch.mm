@@ -1,0 +1,31 @@
+#include "appkit/services/ApplicationLaunch.h"
+
+#include "processes/Applications.h"
+
+#include <variant>
+
+namespace qbsp::appkit {
+
+namespace {
+
+class LaunchedApplication final : public platform::RunningApplication {
+  public:
+    explicit LaunchedApplication(const processes::Process& process) : process_(process) {}
+
+    bool terminate() override { return processes::askToQuit(process_); }
+
+  private:
+    processes::Process process_;
+};
+
+} // namespace
+
+// No option has a counterpart here: an application decides itself whether it becomes the active one.
+platform::LaunchResult launchApplication(const platform::URL& url, platform::LaunchOptions) {
+    const auto launched = processes::launchApplication(url.path());
+    if (const auto* reason = std::get_if<processes::Reason>(&launched))
+        return {nullptr, *reason};
+    return {std::make_shared<LaunchedApplication>(std::get<processes::Process>(launched)), std::nullopt};
+}
+
+} // namespace qbsp::appkit

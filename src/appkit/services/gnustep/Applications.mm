@@ -1,0 +1,25 @@
+#include "appkit/services/Applications.h"
+
+#include "processes/Applications.h"
+
+#include <string>
+
+namespace qbsp::appkit {
+
+bool AppKitRunningApplications::applicationIsRunning(platform::BundleIdentifier identifier) const {
+    return !processes::runningApplications(std::string(identifier.text)).empty();
+}
+
+namespace {
+
+constexpr std::int32_t noErr = 0;
+constexpr std::int32_t kLSApplicationNotFoundErr = -10814;
+
+} // namespace
+
+// There is no database to enter it in: an application is found by its place.
+std::int32_t AppKitLaunchServices::registerURL(const platform::URL& url, platform::RegistrationUpdate) {
+    return processes::identifierOfBundle(url.path()).empty() ? kLSApplicationNotFoundErr : noErr;
+}
+
+} // namespace qbsp::appkit

@@ -1,0 +1,74 @@
+#include "appkit/services/Applications.h"
+
+#include "appkit/bridge/Strings.h"
+#include "appkit/stores/gnustep/JobRecord.h"
+#include "processes/Applications.h"
+#include "xdg/Autostart.h"
+#include "xdg/UserFolders.h"
+
+#import <Foundation/Foundation.h>
+
+#include <string>
+#include <tuple>
+
+namespace qbsp::appkit {
+
+namespace {
+
+JobRecord jobRecord() {
+    return JobRecord(
+        platform::URL::fileURLWithPath(xdg::dataHome() / "com.quarrybook.SorterPane" / "LoginItems.plist"));
+}
+
+platform::URL embeddedApplication(const std::string& identifier) {
+    const auto mainBundle = platform::URL::fileURLWithPath(utf8([[NSBundle mainBundle] bundlePath]));
+    return mainBundle.appendingPathComponent("Contents/Library/LoginItems")
+        .appendingPathComponent(identifier + ".app");
+}
+
+/// Makes it a login item, and its job a recorded one: both or neither.
+bool enlist(const std::string& identifier, const std::string& executable) {
+    const auto autostart = xdg::Autostart::ofUser();
+    if (!autostart.add(identifier, {platform::lastPathComponent(executable), executable}))
+        return false;
+    const bool recorded = jobRecord().add(identifier);
+    if (!recorded)
+        // It must not start at login while no job tells of it; when even that fails, the entry stays.
+        std::ignore = autostart.remove(identifier);
+    return recorded;
+}
+
+void switchOn(const std::string& identifier) {
+    const std::string bundle = embeddedApplication(identifier).path();
+    const std::string executable = processes::executableOfBundle(bundle);
+    if (executable.empty() || !enlist(identifier, executable))
+        return;
+    if (processes::runningApplications(identifier).empty())
+        // Whether it started shows in what runs afterwards.
+        std::ignore = processes::launchApplication(bundle);
+}
+
+void switchOff(const std::string& identifier) {
+    // What cannot be taken back goes on being listed; the application is stopped nevertheless.
+    std::ignore = xdg::Autostart::ofUser().remove(identifier);
+    std::ignore = jobRecord().remove(identifier);
+    processes::askApplicationsToQuit(identifier);
+}
+
+} // namespace
+
+void AppKitServiceManagement::loginItemSetEnabled(platform::BundleIdentifier identifier, bool enabled) {
+    const std::string name(identifier.text);
+    enabled ? switchOn(name) : switchOff(name);
+}
+
+// A job whose login item the user took away, or switched off, is no longer one.
+std::optional<std::vector<platform::Dictionary>>
+AppKitServiceManagement::copyAllJobDictionaries(platform::JobDomain) const {
+    const auto autostart = xdg::Autostart::ofUser();
+    auto jobs = jobRecord().jobs();
+    std::erase_if(jobs, [&](const auto& job) { return !autostart.program(labelOf(job)); });
+    return jobs;
+}
+
+} // namespace qbsp::appkit

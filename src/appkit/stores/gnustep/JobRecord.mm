@@ -1,0 +1,57 @@
+#include "appkit/stores/gnustep/JobRecord.h"
+
+#include "appkit/stores/gnustep/SettingAside.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace qbsp::appkit {
+
+namespace {
+
+constexpr auto jobsKey = "Jobs";
+constexpr auto labelKey = "Label";
+constexpr auto onDemandKey = "OnDemand";
+
+} // namespace
+
+std::vector<platform::Dictionary> JobRecord::jobs() const {
+    const auto record = propertyLists_.dictionaryWithContentsOfFile(file_.path());
+    const auto stored = platform::entry(record.value_or(platform::Dictionary()), jobsKey);
+    std::vector<platform::Dictionary> jobs;
+    if (const auto* array = stored.as<platform::Array>())
+        for (const auto& each : *array)
+            if (const auto* job = each.as<platform::Dictionary>())
+                jobs.push_back(*job);
+    return jobs;
+}
+
+bool JobRecord::add(const std::string& label) {
+    auto jobs = jobsExcept(label);
+    jobs.push_back({{labelKey, label}, {onDemandKey, true}});
+    return write(jobs);
+}
+
+bool JobRecord::remove(const std::string& label) {
+    return write(jobsExcept(label));
+}
+
+std::vector<platform::Dictionary> JobRecord::jobsExcept(const std::string& label) const {
+    auto remaining = jobs();
+    std::erase_if(remaining, [&](const auto& job) { return labelOf(job) == label; });
+    return remaining;
+}
+
+bool JobRecord::write(const std::vector<platform::Dictionary>& jobs) {
+    std::error_code failure;
+    std::filesystem::create_directories(platform::deletingLastPathComponent(file_.path()), failure);
+    const platform::Array array(jobs.begin(), jobs.end());
+    return setAsideUnlessDictionary(file_.path()) &&
+           propertyLists_.writeToURL({{jobsKey, array}}, file_, platform::Atomically::yes);
+}
+
+std::string labelOf(const platform::Dictionary& job) {
+    return platform::stringEntry(job, labelKey).value_or(std::string());
+}
+
+} // namespace qbsp::appkit
