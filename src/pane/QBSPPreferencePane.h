@@ -157,9 +157,9 @@ public:
 
     [[nodiscard]] bool hasSandboxedSorterApp() const { return sandboxedSorterApp_ != nullptr; }
 
-    /// Asks for a reset of the full-screen settings right after the Sorter was next stopped from the pane. No
-    /// operation of the pane asks for it; it is there for a caller who does.
-    void raiseDeleteFullScreenSettingsInSorter() { deleteFullScreenSettingsInSorter_ = true; }
+    /// True asks for a reset of the full-screen settings right after the Sorter was next stopped from the
+    /// pane. No operation of the pane asks for it; it is there for a caller who does.
+    void setDeleteFullScreenSettingsInSorter(bool isWanted) { deleteFullScreenSettingsInSorter_ = isWanted; }
 
     PaneControls controls;
 

@@ -191,7 +191,7 @@ PaneAction readWait(Arguments& arguments, PaneSession& session) {
 
 PaneAction readRaise(Arguments& arguments, PaneSession& session) {
     std::ignore = arguments.oneOf({"deleteFullScreenSettingsInSorter"});
-    return silent([&session] { session.pane().raiseDeleteFullScreenSettingsInSorter(); });
+    return silent([&session] { session.pane().setDeleteFullScreenSettingsInSorter(true); });
 }
 
 PaneAction readInLoginItems(Arguments&, PaneSession& session) {

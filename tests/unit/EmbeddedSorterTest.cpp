@@ -113,7 +113,7 @@ TEST_F(EmbeddedSorter, ChangesNothingAboutTheRestartFlagWhenItIsSwitched) {
 TEST_F(EmbeddedSorter, IsFollowedByARequestedResetWhenItIsSwitchedOff) {
     world.running.insert(embedded);
     select();
-    pane().raiseDeleteFullScreenSettingsInSorter();
+    pane().setDeleteFullScreenSettingsInSorter(true);
 
     pane().toggleSorterProcess(nullptr);
 
@@ -125,7 +125,7 @@ TEST_F(EmbeddedSorter, IsFollowedByARequestedResetWhenItIsSwitchedOff) {
 
 TEST_F(EmbeddedSorter, IsFollowedByNoResetWhenItIsSwitchedOn) {
     select();
-    pane().raiseDeleteFullScreenSettingsInSorter();
+    pane().setDeleteFullScreenSettingsInSorter(true);
 
     pane().toggleSorterProcess(nullptr);
 

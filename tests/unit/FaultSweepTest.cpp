@@ -16,7 +16,7 @@ void selectWithChanges(Stage& stage) {
     stage.select();
     stage.editRow(0, true);
     stage.pane().enableAttentionLabel(nullptr);
-    stage.pane().raiseDeleteFullScreenSettingsInSorter();
+    stage.pane().setDeleteFullScreenSettingsInSorter(true);
     stage.world.alertAnswer = 1000;
 }
 

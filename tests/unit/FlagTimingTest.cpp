@@ -113,7 +113,7 @@ TEST_F(FlagTiming, ClearsTheResetRequestOnlyOnceTheTableIsReloaded) {
     watched->mainViewDidLoad();
     center.posted = [](std::string_view) {
     };
-    watched->raiseDeleteFullScreenSettingsInSorter();
+    watched->setDeleteFullScreenSettingsInSorter(true);
     table.asked = [&] {
         ++calls;
         EXPECT_TRUE(watched->deleteFullScreenSettingsInSorter());

@@ -191,7 +191,7 @@ TEST_F(Reset, LeavesNoResetRequested) {
     pane().resetFullscreenSettings(nullptr);
     EXPECT_FALSE(pane().deleteFullScreenSettingsInSorter());
 
-    pane().raiseDeleteFullScreenSettingsInSorter();
+    pane().setDeleteFullScreenSettingsInSorter(true);
     pane().resetFullscreenSettings(nullptr);
 
     EXPECT_FALSE(pane().deleteFullScreenSettingsInSorter());

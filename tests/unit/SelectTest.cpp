@@ -150,7 +150,7 @@ TEST_F(Select, NeitherReadsNorChangesTheFlags) {
     select();
     editRow(0, false);
     pane().enableAttentionLabel(nullptr);
-    pane().raiseDeleteFullScreenSettingsInSorter();
+    pane().setDeleteFullScreenSettingsInSorter(true);
 
     pane().willSelect();
 

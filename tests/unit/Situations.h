@@ -87,7 +87,7 @@ private:
         if (s.shouldRestart)
             pane().enableAttentionLabel(nullptr);
         if (s.deleteSettings)
-            pane().raiseDeleteFullScreenSettingsInSorter();
+            pane().setDeleteFullScreenSettingsInSorter(true);
         if (s.hideAppsUpdated)
             editRow(0, true);
     }

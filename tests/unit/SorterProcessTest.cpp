@@ -148,7 +148,7 @@ TEST_F(SorterProcess, HidesTheRestartNoticeWithEveryClick) {
 TEST_F(SorterProcess, IsFollowedByARequestedResetWhenItStops) {
     world.running.insert(full);
     select();
-    pane().raiseDeleteFullScreenSettingsInSorter();
+    pane().setDeleteFullScreenSettingsInSorter(true);
 
     pane().toggleSorterProcess(nullptr);
 
@@ -162,7 +162,7 @@ TEST_F(SorterProcess, IsFollowedByARequestedResetWhenItStops) {
 
 TEST_F(SorterProcess, IsFollowedByNoResetWhenItStarts) {
     select();
-    pane().raiseDeleteFullScreenSettingsInSorter();
+    pane().setDeleteFullScreenSettingsInSorter(true);
 
     pane().toggleSorterProcess(nullptr);
 

@@ -16,6 +16,8 @@ class AppKitRecorderControl final : public platform::RecorderControl {
     AppKitRecorderControl(const AppKitRecorderControl&) = delete;
     AppKitRecorderControl& operator=(const AppKitRecorderControl&) = delete;
 
+    [[nodiscard]] bool isFor(id view) const { return view == view_.get(); }
+
     void setHidden(bool hidden) override;
     void setKeyCombo(const platform::KeyCombo& keyCombo) override;
     void setDelegate(platform::RecorderDelegate& delegate) override;

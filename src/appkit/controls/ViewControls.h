@@ -15,6 +15,9 @@ public:
     /// The controls, which live as long as this.
     [[nodiscard]] PaneControls outlets();
 
+    /// The adapter of that recorder of the view; null for any other object.
+    [[nodiscard]] AppKitRecorderControl* recorderFor(id recorder);
+
     [[nodiscard]] AppKitTableView& hideAppsTable() { return hideAppsTable_; }
 
 private:

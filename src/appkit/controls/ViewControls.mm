@@ -33,4 +33,11 @@ PaneControls ViewControls::outlets() {
     };
 }
 
+AppKitRecorderControl* ViewControls::recorderFor(id recorder) {
+    for (AppKitRecorderControl* each : {&clipHotKeyRecorder_, &noteHotKeyRecorder_})
+        if (each->isFor(recorder))
+            return each;
+    return nullptr;
+}
+
 } // namespace qbsp::appkit

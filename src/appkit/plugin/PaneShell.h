@@ -31,9 +31,17 @@ class PaneShell {
     /// The view; made the first time.
     [[nodiscard]] QBSPPaneView* view();
 
-    /// The Sorter's bundle and the host's registrar, as the pane has found them; nil for none.
-    [[nodiscard]] NSURL* sorterAppURL();
+    /// The pane's registrar, which nobody here retains; nil for none.
     [[nodiscard]] QBSPRegistrar loginItemRegistrar();
+    void setLoginItemRegistrar(QBSPRegistrar registrar);
+
+    /// Reports the end of the application that the notification names.
+    void appDied(NSNotification* notification);
+
+    /// What a recorder asks and reports; the pane is told of a recorder that is not its view's as a foreign
+    /// one. The reason may be null; it is set, autoreleased, when there is one.
+    [[nodiscard]] bool isTaken(id recorder, const platform::KeyCombo& keyCombo, NSString** reason);
+    void keyComboDidChange(id recorder, const platform::KeyCombo& keyCombo);
 
     void mainViewDidLoad();
     void willSelect();
@@ -50,6 +58,9 @@ class PaneShell {
   private:
     void makeView();
 
+    /// The view's adapter for that recorder, or a null one.
+    [[nodiscard]] platform::RecorderControl& recorderControl(id recorder);
+
     /// The view's table; one that takes everything and shows nothing while there is no view.
     [[nodiscard]] platform::TableView& hideAppsTable();
 
@@ -60,6 +71,7 @@ class PaneShell {
     Retained<QBSPPaneView*> view_;
     Retained<QBSPVisibilityBinding*> visibility_;
     std::optional<ViewControls> controls_;
+    std::optional<RegistrarAdapter> givenRegistrar_;
     bool isSetUp_ = false;
     bool isShown_ = false;
     bool applicationTerminates_ = false;

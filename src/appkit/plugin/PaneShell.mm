@@ -1,7 +1,7 @@
 #include "appkit/plugin/PaneShell.h"
 
 #include "appkit/bridge/PropertyListConversion.h"
-#include "appkit/bridge/URLs.h"
+#include "appkit/bridge/Strings.h"
 #include "appkit/services/Registrar.h"
 #include "platform/NullObjects.h"
 
@@ -71,13 +71,37 @@ void PaneShell::makeView() {
 
 #pragma mark - What the pane knows
 
-NSURL* PaneShell::sorterAppURL() {
-    return nsURL(pane_->sorterAppURL());
-}
-
 QBSPRegistrar PaneShell::loginItemRegistrar() {
     const auto* registrar = dynamic_cast<const RegistrarAdapter*>(pane_->loginItemRegistrar());
     return registrar == nullptr ? nil : registrar->object();
+}
+
+void PaneShell::setLoginItemRegistrar(QBSPRegistrar registrar) {
+    pane_->setLoginItemRegistrar(registrar == nil ? nullptr : &givenRegistrar_.emplace(registrar));
+}
+
+#pragma mark - What reaches the pane from the platform
+
+void PaneShell::appDied(NSNotification* notification) {
+    pane_->appDied({dictionaryFromObject([notification userInfo]).value_or(platform::Dictionary())});
+}
+
+bool PaneShell::isTaken(id recorder, const platform::KeyCombo& keyCombo, NSString** reason) {
+    std::optional<std::string> text;
+    const bool taken = pane_->shortcutRecorderIsKeyCodeAndFlagsTakenReason(
+        recorderControl(recorder), keyCombo.code, keyCombo.flags, reason == nullptr ? nullptr : &text);
+    if (text)
+        *reason = nsString(*text);
+    return taken;
+}
+
+void PaneShell::keyComboDidChange(id recorder, const platform::KeyCombo& keyCombo) {
+    pane_->shortcutRecorderKeyComboDidChange(recorderControl(recorder), keyCombo);
+}
+
+platform::RecorderControl& PaneShell::recorderControl(id recorder) {
+    platform::RecorderControl* found = controls_ ? controls_->recorderFor(recorder) : nullptr;
+    return found == nullptr ? platform::nullObject<platform::RecorderControl>() : *found;
 }
 
 #pragma mark - Life in the host

@@ -6,29 +6,66 @@
 #import <AppKit/AppKit.h>
 #import <PreferencePanes/NSPreferencePane.h>
 
+#include <memory>
+
 namespace qbsp::appkit {
 class PaneShell;
 }
 
-/// The principal class of the plug-in. It hands every message of the host and of the view on to the pane.
+/// A key combination: the platform's modifier flags, and the Mac's virtual key code, -1 for no key.
+struct QBSPKeyCombo {
+    NSUInteger flags;
+    NSInteger code;
+};
+
+/// The principal class of the plug-in. It forwards every message of the host, of the view and of the platform
+/// to the pane, whose operations have the same names.
 __attribute__((visibility("default")))
 @interface QBSPPreferencePane : NSPreferencePane {
-    qbsp::appkit::PaneShell* shell;
+    std::unique_ptr<qbsp::appkit::PaneShell> shell;
 }
 
-/// The start/stop button, the reset button and the add button.
 - (IBAction)toggleSorterProcess:(id)sender;
 - (IBAction)resetFullscreenSettings:(id)sender;
 - (IBAction)addHideApp:(id)sender;
 
-/// What else the pane does for who asks it by name. They do the same as the pane's operations of these names.
+- (void)updateToggleButtonTitle;
 - (void)showSorterApplication;
 - (void)closeSorterApplication;
-- (void)updateToggleButtonTitle;
-- (void)deleteFullScreenSettings;
 - (BOOL)appIsPresentInLoginItems;
+- (void)showLoginItemEditFailureAlert:(NSString*)message;
+
+/// Takes a notification with the bundle identifier of the application that ended.
+- (void)appDied:(NSNotification*)notification;
+
+- (void)loadHideAppData;
+- (void)deleteFullScreenSettings;
+- (NSInteger)indexOfAppInList:(NSString*)appName;
+
+/// What a recorder asks and reports. One that is neither of the view's two changes no stored hot key. The
+/// reason may be NULL.
+- (BOOL)shortcutRecorder:(id)recorder
+               isKeyCode:(NSInteger)code
+           andFlagsTaken:(NSUInteger)flags
+                  reason:(NSString**)reason;
+- (void)shortcutRecorder:(id)recorder keyComboDidChange:(QBSPKeyCombo)keyCombo;
+- (void)enableAttentionLabel:(id)sender;
+
+/// The Sorter's bundle; nil when it is not known.
 - (NSURL*)sorterAppURL;
+- (void)setSorterAppURL:(NSURL*)url;
+
+/// The host's registrar, which is not retained; nil when there is none.
 - (QBSPRegistrar)loginItemRegistrar;
+- (void)setLoginItemRegistrar:(QBSPRegistrar)registrar;
+
+/// YES asks for a reset of the full-screen settings right after the Sorter was next stopped from the pane.
+- (BOOL)deleteFullScreenSettingsInSorter;
+- (void)setDeleteFullScreenSettingsInSorter:(BOOL)isWanted;
+
+- (BOOL)shouldRestartSorter;
+- (BOOL)isSorterProApp;
+- (BOOL)hideAppsUpdated;
 
 @end
 

@@ -1,7 +1,11 @@
 #import "appkit/plugin/PreferencePane.h"
 
+#include "appkit/bridge/Strings.h"
+#include "appkit/bridge/URLs.h"
 #include "appkit/plugin/PaneShell.h"
 #include "appkit/stores/UserDefaults.h"
+
+#include <utility>
 
 using qbsp::appkit::PaneShell;
 
@@ -20,7 +24,7 @@ using qbsp::appkit::PaneShell;
     auto created = std::make_unique<PaneShell>(self, bundle);
     if (!created->create())
         return nil;
-    shell = created.release();
+    shell = std::move(created);
     [[NSNotificationCenter defaultCenter] addObserver:self
                                              selector:@selector(applicationWillTerminate:)
                                                  name:NSApplicationWillTerminateNotification
@@ -30,7 +34,8 @@ using qbsp::appkit::PaneShell;
 
 - (void)dealloc {
     [[NSNotificationCenter defaultCenter] removeObserver:self];
-    delete shell;
+    // While the object is still whole: what the shell gives up may refer to it.
+    shell = nullptr;
     [super dealloc];
 }
 
@@ -77,7 +82,11 @@ using qbsp::appkit::PaneShell;
     shell->pane().addHideApp(nullptr);
 }
 
-#pragma mark - Operations of the pane itself
+#pragma mark - The Sorter
+
+- (void)updateToggleButtonTitle {
+    shell->pane().updateToggleButtonTitle();
+}
 
 - (void)showSorterApplication {
     shell->pane().showSorterApplication();
@@ -87,24 +96,85 @@ using qbsp::appkit::PaneShell;
     shell->pane().closeSorterApplication();
 }
 
-- (void)updateToggleButtonTitle {
-    shell->pane().updateToggleButtonTitle();
+- (BOOL)appIsPresentInLoginItems {
+    return shell->pane().appIsPresentInLoginItems();
+}
+
+- (void)showLoginItemEditFailureAlert:(NSString*)message {
+    shell->pane().showLoginItemEditFailureAlert(qbsp::appkit::utf8(message));
+}
+
+- (void)appDied:(NSNotification*)notification {
+    shell->appDied(notification);
+}
+
+#pragma mark - The hide list
+
+- (void)loadHideAppData {
+    shell->pane().loadHideAppData();
 }
 
 - (void)deleteFullScreenSettings {
     shell->pane().deleteFullScreenSettings();
 }
 
-- (BOOL)appIsPresentInLoginItems {
-    return shell->pane().appIsPresentInLoginItems();
+- (NSInteger)indexOfAppInList:(NSString*)appName {
+    return static_cast<NSInteger>(shell->pane().indexOfAppInList(qbsp::appkit::utf8(appName)));
 }
 
+#pragma mark - Recorder delegate
+
+- (BOOL)shortcutRecorder:(id)recorder
+               isKeyCode:(NSInteger)code
+           andFlagsTaken:(NSUInteger)flags
+                  reason:(NSString**)reason {
+    return shell->isTaken(recorder, {.flags = flags, .code = code}, reason);
+}
+
+- (void)shortcutRecorder:(id)recorder keyComboDidChange:(QBSPKeyCombo)keyCombo {
+    shell->keyComboDidChange(recorder, {.flags = keyCombo.flags, .code = keyCombo.code});
+}
+
+- (void)enableAttentionLabel:(id)sender {
+    shell->pane().enableAttentionLabel(nullptr);
+}
+
+#pragma mark - Properties
+
 - (NSURL*)sorterAppURL {
-    return shell->sorterAppURL();
+    return qbsp::appkit::nsURL(shell->pane().sorterAppURL());
+}
+
+- (void)setSorterAppURL:(NSURL*)url {
+    shell->pane().setSorterAppURL(qbsp::appkit::urlFromNSURL(url));
 }
 
 - (QBSPRegistrar)loginItemRegistrar {
     return shell->loginItemRegistrar();
+}
+
+- (void)setLoginItemRegistrar:(QBSPRegistrar)registrar {
+    shell->setLoginItemRegistrar(registrar);
+}
+
+- (BOOL)deleteFullScreenSettingsInSorter {
+    return shell->pane().deleteFullScreenSettingsInSorter();
+}
+
+- (void)setDeleteFullScreenSettingsInSorter:(BOOL)isWanted {
+    shell->pane().setDeleteFullScreenSettingsInSorter(isWanted);
+}
+
+- (BOOL)shouldRestartSorter {
+    return shell->pane().shouldRestartSorter();
+}
+
+- (BOOL)isSorterProApp {
+    return shell->pane().isSorterProApp();
+}
+
+- (BOOL)hideAppsUpdated {
+    return shell->pane().hideAppsUpdated();
 }
 
 #pragma mark - NSTableViewDataSource

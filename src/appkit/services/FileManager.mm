@@ -5,20 +5,6 @@
 
 namespace qbsp::appkit {
 
-namespace {
-
-bool isFolder(NSString* path) {
-    BOOL folder = NO;
-    return [[NSFileManager defaultManager] fileExistsAtPath:path isDirectory:&folder] && folder;
-}
-
-std::string description(NSError* error) {
-    NSString* text = [error description];
-    return text == nil ? "The folder could not be created." : utf8(text);
-}
-
-} // namespace
-
 std::optional<platform::URL>
 AppKitFileManager::containerURLForSecurityApplicationGroupIdentifier(platform::ApplicationGroup group) {
     return groupContainerURL(group);
@@ -34,14 +20,11 @@ AppKitFileManager::createDirectoryAtURL(const platform::URL& url,
     NSString* path = nsString(url.path());
     NSError* error = nil;
     const BOOL create = intermediates == platform::IntermediateDirectories::create ? YES : NO;
-    const BOOL made = [[NSFileManager defaultManager] createDirectoryAtPath:path
-                                                withIntermediateDirectories:create
-                                                                 attributes:nil
-                                                                      error:&error];
-    // Success is also reported where a plain file lies at the path and nothing was made.
-    if (made && isFolder(path))
-        return std::nullopt;
-    return description(error);
+    [[NSFileManager defaultManager] createDirectoryAtPath:path
+                              withIntermediateDirectories:create
+                                               attributes:nil
+                                                    error:&error];
+    return optionalUTF8([error description]);
 }
 
 } // namespace qbsp::appkit

@@ -3,6 +3,11 @@
 #include "appkit/bridge/Strings.h"
 #include "appkit/bridge/URLs.h"
 
+/// The compiler hands a protocol to the runtime only where code refers to it; hosts look it up by its name.
+[[gnu::used]] static Protocol* registrarProtocol() {
+    return @protocol(QBSPSorterControl);
+}
+
 namespace qbsp::appkit {
 
 bool RegistrarAdapter::applicationIsRegistered(const std::optional<platform::URL>& application) {
