@@ -10,10 +10,10 @@ namespace qbsp {
 
 namespace {
 
-const simulated::SimulatedStrings strings;
+const simulated::SimulatedStrings comparison;
 
 HideList listOf(const platform::Dictionary& hideFlags) {
-    HideList list(strings);
+    HideList list(comparison);
     list.load(hideFlags);
     return list;
 }
@@ -32,7 +32,7 @@ std::shared_ptr<HideAppInfo> recordOf(const char* name) {
 } // namespace
 
 TEST(HideList, DoesNotExistBeforeItsFirstLoad) {
-    const HideList list(strings);
+    const HideList list(comparison);
 
     EXPECT_FALSE(list.exists());
     EXPECT_TRUE(list.records().empty());
@@ -108,7 +108,7 @@ TEST(HideList, NeitherTrimsNorNormalisesWhatItSearches) {
 
 TEST(HideList, AnswersMinusOneForANameThatIsNotThere) {
     EXPECT_EQ(HideList::notFound, -1);
-    EXPECT_EQ(HideList(strings).indexOf("Mail"), -1);
+    EXPECT_EQ(HideList(comparison).indexOf("Mail"), -1);
     EXPECT_EQ(listOf({}).indexOf(""), -1);
 }
 
@@ -123,7 +123,7 @@ TEST(HideList, SortsWhatIsAdded) {
 }
 
 TEST(HideList, TakesNothingWhileItDoesNotExist) {
-    HideList list(strings);
+    HideList list(comparison);
     const auto mango = recordOf("mango");
 
     list.add(mango);
@@ -151,7 +151,7 @@ TEST(HideList, IsEmptiedButGoesOnExisting) {
 }
 
 TEST(HideList, IsNotMadeByEmptyingIt) {
-    HideList list(strings);
+    HideList list(comparison);
 
     list.removeAll();
 
@@ -167,12 +167,12 @@ TEST(HideList, StoresTheLaterOfTwoRowsWithOneName) {
 
 TEST(HideList, ThrowsForARowOutsideIt) {
     EXPECT_THROW(std::ignore = &listOf({{"Mail", true}}).at(1), std::out_of_range);
-    EXPECT_THROW(std::ignore = &HideList(strings).at(0), std::out_of_range);
+    EXPECT_THROW(std::ignore = &HideList(comparison).at(0), std::out_of_range);
 }
 
 TEST(HideAppOrder, ComparesNamesIgnoringCase) {
     const auto order = [](const char* first, const char* second) {
-        return compareStringUsingSelector({first, true}, {second, false}, strings);
+        return compareStringUsingSelector({first, true}, {second, false}, comparison);
     };
 
     EXPECT_TRUE(std::is_lt(order("apple", "MANGO")));

@@ -12,20 +12,20 @@ struct Modifier {
     CarbonFlags carbon;
 };
 
-constexpr Modifier modifiers[] = {{"shift", 0x20000, 0x200},
-                                  {"control", 0x40000, 0x1000},
-                                  {"option", 0x80000, 0x800},
-                                  {"command", 0x100000, 0x100}};
+constexpr Modifier modifierPairs[] = {{"shift", 0x20000, 0x200},
+                                      {"control", 0x40000, 0x1000},
+                                      {"option", 0x80000, 0x800},
+                                      {"command", 0x100000, 0x100}};
 
 } // namespace
 
 TEST(ModifierFlags, AreCarriedToCarbonOneByOne) {
-    for (const Modifier& modifier : modifiers)
+    for (const Modifier& modifier : modifierPairs)
         EXPECT_EQ(cocoaToCarbonFlags(modifier.cocoa), modifier.carbon) << modifier.name;
 }
 
 TEST(ModifierFlags, AreCarriedToCocoaOneByOne) {
-    for (const Modifier& modifier : modifiers)
+    for (const Modifier& modifier : modifierPairs)
         EXPECT_EQ(carbonToCocoaFlags(modifier.carbon), modifier.cocoa) << modifier.name;
 }
 

@@ -40,7 +40,7 @@ void startForTheFirstTime(Stage& stage) {
     stage.world.defaults.put("SorterTabIsInvisible", {});
 }
 
-constexpr Operation operations[] = {
+constexpr Operation sweptOperations[] = {
     {"initialize", startForTheFirstTime,
      [](Stage& s) {
          s.session.initialize();
@@ -168,7 +168,7 @@ void sweep(const Operation& operation, bool sandboxed, bool pro) {
 } // namespace
 
 TEST(FaultSweep, KeepsTheInvariantsWhicheverCallFails) {
-    for (const Operation& operation : operations)
+    for (const Operation& operation : sweptOperations)
         for (const bool sandboxed : {false, true})
             for (const bool pro : {false, true})
                 ASSERT_NO_FATAL_FAILURE(sweep(operation, sandboxed, pro));

@@ -10,8 +10,8 @@ namespace qbsp::platform {
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t highest = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t lowest32 = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t highest32 = std::numeric_limits<std::int32_t>::max();
 
 std::int32_t intOf(const char* text) {
     return Value(text).intValue();
@@ -73,7 +73,7 @@ TEST(IntValue, OfARealLosesTheFraction) {
 TEST(IntValue, OfAHugeRealIsItsLow32Bits) {
     EXPECT_EQ(Value(4294967298.5).intValue(), 2);
     EXPECT_EQ(Value(-4294967298.5).intValue(), -2);
-    EXPECT_EQ(Value(2147483648.0).intValue(), lowest);
+    EXPECT_EQ(Value(2147483648.0).intValue(), lowest32);
     EXPECT_EQ(Value(4294967295.0).intValue(), -1);
     EXPECT_EQ(Value(1e300).intValue(), 0);
     EXPECT_EQ(Value(std::numeric_limits<double>::max()).intValue(), 0);
@@ -108,12 +108,12 @@ TEST(IntValue, OfATextEndsAtWhatIsNoDigit) {
 }
 
 TEST(IntValue, OfATextIsHeldWithin32Bits) {
-    EXPECT_EQ(intOf("2147483647"), highest);
-    EXPECT_EQ(intOf("2147483648"), highest);
-    EXPECT_EQ(intOf("99999999999999999999999999"), highest);
-    EXPECT_EQ(intOf("-2147483648"), lowest);
-    EXPECT_EQ(intOf("-2147483649"), lowest);
-    EXPECT_EQ(intOf("-99999999999999999999999999"), lowest);
+    EXPECT_EQ(intOf("2147483647"), highest32);
+    EXPECT_EQ(intOf("2147483648"), highest32);
+    EXPECT_EQ(intOf("99999999999999999999999999"), highest32);
+    EXPECT_EQ(intOf("-2147483648"), lowest32);
+    EXPECT_EQ(intOf("-2147483649"), lowest32);
+    EXPECT_EQ(intOf("-99999999999999999999999999"), lowest32);
 }
 
 TEST(IntValue, OfAnyOtherKindIsZero) {
