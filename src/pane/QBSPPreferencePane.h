@@ -20,6 +20,7 @@ class PreferencePaneBase;
 
 namespace qbsp {
 
+class QBSPSorterControl;
 struct HotKeyKeys;
 struct SorterIdentity;
 class SorterDomain;

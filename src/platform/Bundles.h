@@ -1,11 +1,14 @@
 #pragma once
 
 #include "platform/Name.h"
-#include "platform/QBSPSorterControl.h"
 #include "platform/URL.h"
 
 #include <optional>
 #include <string>
+
+namespace qbsp {
+class QBSPSorterControl;
+}
 
 namespace qbsp::platform {
 

@@ -46,20 +46,6 @@ class NullTableView final : public TableView {
     void scrollRowToVisible(std::size_t) override {}
 };
 
-class NullSorterControl final : public QBSPSorterControl {
-    bool applicationIsRegistered(const std::optional<URL>&) override { return false; }
-
-    bool registerApplication(const std::optional<URL>&) override { return false; }
-
-    bool unregisterApplication(const std::optional<URL>&) override { return false; }
-
-    void showAccountsSystemPreferencePane() override {}
-
-    void showSorterApplication() override {}
-
-    void closeSorterApplication() override {}
-};
-
 /// The one object of a class without state, in the guise of its interface.
 template <class Interface, class Null>
 Interface& only() {
@@ -92,11 +78,6 @@ TableColumn& nullObject() {
 template <>
 TableView& nullObject() {
     return only<TableView, NullTableView>();
-}
-
-template <>
-QBSPSorterControl& nullObject() {
-    return only<QBSPSorterControl, NullSorterControl>();
 }
 
 } // namespace qbsp::platform

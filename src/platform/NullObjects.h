@@ -2,7 +2,6 @@
 
 #include "platform/Controls.h"
 #include "platform/Outlet.h"
-#include "platform/QBSPSorterControl.h"
 
 namespace qbsp::platform {
 
@@ -16,7 +15,5 @@ template <>
 TableColumn& nullObject();
 template <>
 TableView& nullObject();
-template <>
-QBSPSorterControl& nullObject();
 
 } // namespace qbsp::platform

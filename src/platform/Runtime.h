@@ -1,7 +1,10 @@
 #pragma once
 
 #include "platform/Name.h"
-#include "platform/QBSPSorterControl.h"
+
+namespace qbsp {
+class QBSPSorterControl;
+}
 
 namespace qbsp::platform {
 

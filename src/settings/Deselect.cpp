@@ -1,11 +1,11 @@
 #include "pane/QBSPPreferencePane.h"
 #include "platform/Host.h"
 #include "platform/PreferencePaneBase.h"
-#include "platform/QBSPSorterControl.h"
 #include "platform/UserDefaults.h"
 #include "settings/SorterDomain.h"
 #include "settings/SorterStores.h"
 #include "settings/Texts.h"
+#include "sorter/QBSPSorterControl.h"
 
 namespace qbsp {
 

@@ -1,8 +1,8 @@
 #include "pane/QBSPPreferencePane.h"
 #include "platform/Host.h"
 #include "platform/PreferencePaneBase.h"
-#include "platform/QBSPSorterControl.h"
 #include "settings/SorterStores.h"
+#include "sorter/QBSPSorterControl.h"
 
 namespace qbsp {
 

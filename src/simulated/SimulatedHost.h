@@ -8,6 +8,7 @@
 #include "platform/Runtime.h"
 #include "simulated/Transcript.h"
 #include "simulated/World.h"
+#include "sorter/QBSPSorterControl.h"
 
 namespace qbsp::simulated {
 

@@ -1,8 +1,8 @@
 #include "pane/QBSPPreferencePane.h"
 #include "platform/Alert.h"
-#include "platform/QBSPSorterControl.h"
 #include "platform/ServiceManagement.h"
 #include "sorter/LoginItemJobs.h"
+#include "sorter/QBSPSorterControl.h"
 #include "sorter/SorterIdentity.h"
 #include "sorter/Texts.h"
 

@@ -1,8 +1,8 @@
 #include "pane/QBSPPreferencePane.h"
 #include "platform/Host.h"
 #include "platform/Log.h"
-#include "platform/QBSPSorterControl.h"
 #include "platform/UserDefaults.h"
+#include "sorter/QBSPSorterControl.h"
 
 #include <tuple>
 

@@ -4,7 +4,7 @@
 #include "platform/DistributedNotificationCenter.h"
 #include "platform/Log.h"
 #include "platform/NullObjects.h"
-#include "platform/QBSPSorterControl.h"
+#include "sorter/QBSPSorterControl.h"
 
 #include <functional>
 

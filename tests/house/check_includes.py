@@ -29,7 +29,7 @@ USES = {
     "hidelist": ["platform", "pane", "settings"],
     "pane": ["platform", "hidelist", "settings", "sorter"],
     "simulated": ["platform", "pane", "sorter"],
-    "appkit": ["platform", "pane"],
+    "appkit": ["platform", "pane", "sorter"],
     "support": [],
     "standins": [],
 }

@@ -54,16 +54,4 @@ TEST(NullTable, HasOnlyAColumnThatKeepsNothing) {
     EXPECT_EQ(&column, &nullObject<TableColumn>());
 }
 
-TEST(NullRegistrar, AnswersNoToEverything) {
-    const Outlet<QBSPSorterControl> registrar;
-    const auto sorter = URL::fileURLWithPath("/Sorter.app");
-    registrar->showSorterApplication();
-    registrar->closeSorterApplication();
-    registrar->showAccountsSystemPreferencePane();
-
-    EXPECT_FALSE(registrar->applicationIsRegistered(sorter));
-    EXPECT_FALSE(registrar->registerApplication(sorter));
-    EXPECT_FALSE(registrar->unregisterApplication(sorter));
-}
-
 } // namespace qbsp::platform

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "appkit/services/SorterControlProtocol.h"
-#include "platform/QBSPSorterControl.h"
+#include "sorter/QBSPSorterControl.h"
 #include "platform/Runtime.h"
 
 #include <optional>

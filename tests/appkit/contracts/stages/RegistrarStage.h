@@ -2,6 +2,7 @@
 
 #include "platform/Bundles.h"
 #include "platform/Runtime.h"
+#include "sorter/QBSPSorterControl.h"
 
 #include <memory>
 #include <string>

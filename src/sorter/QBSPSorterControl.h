@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Outlet.h"
 #include "platform/URL.h"
 
 #include <optional>
@@ -7,7 +8,7 @@
 namespace qbsp {
 
 /// The registrar of the ordinary host: it keeps the Sorter's login item, and starts and stops the Sorter of
-/// the host's edition. The host owns it. A URL is missing where the Sorter's place could not be told.
+/// the host's edition. The host owns it. A URL is missing where the pane does not know where the Sorter lies.
 class QBSPSorterControl {
 public:
     virtual ~QBSPSorterControl() = default;
@@ -30,5 +31,9 @@ public:
     /// Stops the Sorter.
     virtual void closeSorterApplication() = 0;
 };
+
+/// What stands in for the registrar where the host offers none: it does nothing and returns false.
+template <>
+QBSPSorterControl& platform::nullObject();
 
 } // namespace qbsp
