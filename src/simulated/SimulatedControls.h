@@ -17,8 +17,6 @@ public:
     ControlRecord(std::string field, Transcript& transcript)
         : field_(std::move(field)), transcript_(transcript) {}
 
-    [[nodiscard]] const std::string& field() const { return field_; }
-
     /// Writes the operation down. False when it fails, and so has no effect.
     [[nodiscard]] bool told(std::string_view selector, std::initializer_list<std::string> arguments);
 
@@ -33,8 +31,6 @@ private:
 class SimulatedTextField final : public platform::TextField {
 public:
     SimulatedTextField(std::string field, Transcript& transcript) : record_(std::move(field), transcript) {}
-
-    [[nodiscard]] const std::string& field() const { return record_.field(); }
 
     void setHidden(bool hidden) override;
     void setStringValue(std::string_view text) override;
@@ -51,8 +47,6 @@ private:
 class SimulatedButton final : public platform::Button {
 public:
     SimulatedButton(std::string field, Transcript& transcript) : record_(std::move(field), transcript) {}
-
-    [[nodiscard]] const std::string& field() const { return record_.field(); }
 
     void setHidden(bool hidden) override;
     void setTitle(std::string_view title) override;
@@ -77,8 +71,6 @@ private:
 class SimulatedRecorder final : public platform::RecorderControl {
 public:
     SimulatedRecorder(std::string field, Transcript& transcript) : record_(std::move(field), transcript) {}
-
-    [[nodiscard]] const std::string& field() const { return record_.field(); }
 
     void setHidden(bool hidden) override;
     void setKeyCombo(const platform::KeyCombo& keyCombo) override;
@@ -116,8 +108,6 @@ public:
     SimulatedTable(std::string field, Transcript& transcript, const std::vector<std::string>& columns,
                    std::function<std::int64_t()> rowCount);
 
-    [[nodiscard]] const std::string& field() const { return record_.field(); }
-
     platform::TableColumn& tableColumnWithIdentifier(platform::ColumnIdentifier identifier) override;
     void reloadData() override;
     void selectRow(std::size_t row) override;
@@ -133,5 +123,32 @@ private:
     std::optional<std::size_t> selected_;
     std::optional<std::size_t> scrolledTo_;
 };
+
+/// Which simulated control stands for one of that interface.
+template <class Interface>
+struct SimulatedKind;
+
+template <>
+struct SimulatedKind<platform::RecorderControl> {
+    using Type = SimulatedRecorder;
+};
+
+template <>
+struct SimulatedKind<platform::Button> {
+    using Type = SimulatedButton;
+};
+
+template <>
+struct SimulatedKind<platform::TextField> {
+    using Type = SimulatedTextField;
+};
+
+template <>
+struct SimulatedKind<platform::TableView> {
+    using Type = SimulatedTable;
+};
+
+template <class Interface>
+using SimulatedControl = typename SimulatedKind<Interface>::Type;
 
 } // namespace qbsp::simulated

@@ -4,6 +4,8 @@
 #include "simulated/SimulatedControls.h"
 #include "simulated/World.h"
 
+#include <optional>
+
 namespace qbsp::simulated {
 
 /// The names of the pane's control fields, in the order of its fields.
@@ -23,26 +25,17 @@ public:
     [[nodiscard]] std::vector<std::pair<std::string, platform::Dictionary>> contents() const;
 
 private:
-    /// Calls visit(control, outlet) for each control and its field, in the order of the pane's fields.
-    template <class View, class Controls, class Visit>
-    static void forEachControl(View& view, Controls& controls, Visit visit);
+    template <class Control>
+    using Simulated = std::optional<SimulatedControl<Control>>;
+
+    template <class Control>
+    void make(std::optional<Control>& control, const char* field);
+    void make(std::optional<SimulatedTable>& table, const char* field);
 
     const QBSPPreferencePane& pane_;
-
-    SimulatedRecorder clipHotKeyRecorder_;
-    SimulatedRecorder noteHotKeyRecorder_;
-    SimulatedButton showAtLoginCheckbox_;
-    SimulatedButton toggleLaunchButton_;
-    SimulatedButton visibilityButton_;
-    SimulatedTextField availabilityLabel_;
-    SimulatedTextField visibilityLabel_;
-    SimulatedTextField descriptionLabel_;
-    SimulatedTextField takeNoteLabel_;
-    SimulatedTextField copySelectionLabel_;
-    SimulatedTextField attentionLabel_;
-    SimulatedButton resetFullscreenSettingsButton_;
-    SimulatedTable hideAppsTable_;
-    SimulatedTextField hideAppLabel_;
+    const World& world_;
+    Transcript& transcript_;
+    ControlSet<Simulated> controls_;
 };
 
 } // namespace qbsp::simulated

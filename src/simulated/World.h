@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pane/PaneControls.h"
 #include "platform/Value.h"
 #include "simulated/Disk.h"
 #include "simulated/Store.h"
@@ -53,7 +54,7 @@ struct World {
 
     std::int64_t alertAnswer = 1001;
 
-    std::vector<std::string> columns = {"1", "2"};
+    std::vector<std::string> columns = {std::string(nameColumn.text), std::string(flagColumn.text)};
     std::set<std::string, std::less<>> disconnected; ///< names of control fields
 };
 
