@@ -148,7 +148,11 @@ public:
 
     [[nodiscard]] bool shouldRestartSorter() const { return shouldRestartSorter_; }
 
+    /// True when the full-screen settings are to be reset right after the Sorter is next stopped from the pane.
+    /// No operation of the pane sets this; it is there for a caller in the host.
     [[nodiscard]] bool deleteFullScreenSettingsInSorter() const { return deleteFullScreenSettingsInSorter_; }
+
+    void setDeleteFullScreenSettingsInSorter(bool requested) { deleteFullScreenSettingsInSorter_ = requested; }
 
     [[nodiscard]] bool isSorterProApp() const { return isSorterProApp_; }
 
@@ -157,10 +161,6 @@ public:
     [[nodiscard]] bool hideAppsUpdated() const { return hideAppsUpdated_; }
 
     [[nodiscard]] bool hasSandboxedSorterApp() const { return sandboxedSorterApp_ != nullptr; }
-
-    /// True asks for a reset of the full-screen settings right after the Sorter was next stopped from the
-    /// pane. No operation of the pane asks for it; it is there for a caller who does.
-    void setDeleteFullScreenSettingsInSorter(bool isWanted) { deleteFullScreenSettingsInSorter_ = isWanted; }
 
     PaneControls controls;
 

@@ -29,6 +29,16 @@ TEST_F(Properties, AreNullAfterNull) {
     EXPECT_EQ(pane().loginItemRegistrar(), nullptr);
 }
 
+TEST_F(Properties, CanRequestAResetAndTakeTheRequestBack) {
+    createPane();
+
+    pane().setDeleteFullScreenSettingsInSorter(true);
+    EXPECT_TRUE(pane().deleteFullScreenSettingsInSorter());
+
+    pane().setDeleteFullScreenSettingsInSorter(false);
+    EXPECT_FALSE(pane().deleteFullScreenSettingsInSorter());
+}
+
 TEST_F(Properties, KeepTheSortersPlaceWholeWhileAnotherThreadSetsIt) {
     const auto here = platform::URL::fileURLWithPath("/A folder whose name is long/Quarrybook Sorter.app");
     const auto there = platform::URL::fileURLWithPath("/Another/Sorter.app");
