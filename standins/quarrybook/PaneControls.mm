@@ -42,8 +42,9 @@ const std::vector<std::string>& PaneControls::names() {
 }
 
 id PaneControls::named(const std::string& name) const {
-    const SEL accessor = NSSelectorFromString([NSString stringWithUTF8String:name.c_str()]);
-    return [mainView_ respondsToSelector:accessor] ? [mainView_ performSelector:accessor] : nil;
+    const SEL lookUp = NSSelectorFromString(@"controlNamed:");
+    NSString* key = [NSString stringWithUTF8String:name.c_str()];
+    return [mainView_ respondsToSelector:lookUp] ? [mainView_ performSelector:lookUp withObject:key] : nil;
 }
 
 std::string PaneControls::description(const std::string& name) const {

@@ -27,16 +27,12 @@
 - (id)loginItemRegistrar;
 @end
 
-@interface NSView (Button)
-- (NSButton*)toggleLaunchButton;
-@end
-
 static void tell(const char* name, NSString* answer) {
     printf("%s: %s\n", name, [answer UTF8String]);
 }
 
 static void ask(NSPreferencePane* pane) {
-    NSButton* button = [[pane mainView] toggleLaunchButton];
+    NSButton* button = [[pane mainView] valueForKey:@"toggleLaunchButton"];
     [button setTitle:@""];
     [pane updateToggleButtonTitle];
     tell("updateToggleButtonTitle", [button title]);

@@ -14,10 +14,6 @@
 
 @end
 
-@interface NSView (Recorder)
-- (NSView*)clipHotKeyRecorder;
-@end
-
 static NSPreferencePane* loadedPane(NSString* path) {
     NSBundle* bundle = [NSBundle bundleWithPath:path];
     NSPreferencePane* pane = [[[bundle principalClass] alloc] initWithBundle:bundle];
@@ -34,8 +30,8 @@ static void reveal(NSPreferencePane* pane) {
     [window setTitle:@"Revealed"];
     [window setContentView:view];
     [pane willSelect];
-    [[view clipHotKeyRecorder] setHidden:NO];
-    [window makeFirstResponder:[view clipHotKeyRecorder]];
+    [[view valueForKey:@"clipHotKeyRecorder"] setHidden:NO];
+    [window makeFirstResponder:[view valueForKey:@"clipHotKeyRecorder"]];
     [window makeKeyAndOrderFront:nil];
 }
 

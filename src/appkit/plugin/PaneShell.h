@@ -1,10 +1,11 @@
 #pragma once
 
-#include "appkit/controls/ViewControls.h"
+#include "appkit/controls/ControlAdapters.h"
 #include "appkit/plugin/QBSPVisibilityBinding.h"
 #include "appkit/services/PreferencePaneBase.h"
 #include "appkit/services/Services.h"
 #include "appkit/services/SorterControlProtocol.h"
+#import "appkit/view/QBSPPaneView.h"
 #include "pane/QBSPPreferencePane.h"
 
 #import <PreferencePanes/NSPreferencePane.h>
@@ -57,6 +58,7 @@ class PaneShell {
 
   private:
     void makeView();
+    void connectActions(id target);
 
     /// The view's adapter for that recorder, or a null one.
     [[nodiscard]] platform::RecorderControl& recorderControl(id recorder);
@@ -70,7 +72,7 @@ class PaneShell {
     AppKitPreferencePaneBase base_;
     Retained<QBSPPaneView*> view_;
     Retained<QBSPVisibilityBinding*> visibility_;
-    std::optional<ViewControls> controls_;
+    std::optional<ControlAdapters> controls_;
     std::optional<RegistrarAdapter> givenRegistrar_;
     bool isSetUp_ = false;
     bool isShown_ = false;

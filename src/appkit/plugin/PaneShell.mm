@@ -36,11 +36,8 @@ PaneShell::PaneShell(PrincipalObject object, NSBundle* bundle)
 
 // A host may keep the view longer than the pane.
 PaneShell::~PaneShell() {
-    QBSPPaneView* view = view_.get();
-    connect([view toggleLaunchButton], nil, nullptr);
-    connect([view resetFullscreenSettingsButton], nil, nullptr);
-    connect([view addButton], nil, nullptr);
-    [[view hideAppsTable] setDataSource:nil];
+    if (view_.get() != nil)
+        connectActions(nil);
 }
 
 bool PaneShell::create() {
@@ -60,13 +57,18 @@ void PaneShell::makeView() {
     QBSPPaneView* view = [[QBSPPaneView alloc] initWithFrame:NSZeroRect];
     view_ = Retained<QBSPPaneView*>::adopt(view);
     visibility_ = Retained<QBSPVisibilityBinding*>::adopt(
-        [[QBSPVisibilityBinding alloc] initWithCheckBox:[view visibilityButton]]);
-    connect([view toggleLaunchButton], object_, @selector(toggleSorterProcess:));
-    connect([view resetFullscreenSettingsButton], object_, @selector(resetFullscreenSettings:));
-    connect([view addButton], object_, @selector(addHideApp:));
+        [[QBSPVisibilityBinding alloc] initWithCheckBox:[view controls].visibilityButton]);
     [[view addButton] setTitle:[bundle_ localizedStringForKey:@"Add..." value:@"" table:nil]];
-    [[view hideAppsTable] setDataSource:static_cast<id>(object_)];
-    pane_->controls = controls_.emplace(view).outlets();
+    connectActions(object_);
+    pane_->controls = controls_.emplace([view controls]).outlets();
+}
+
+void PaneShell::connectActions(id target) {
+    const ViewControls& controls = [view_.get() controls];
+    connect(controls.toggleLaunchButton, target, @selector(toggleSorterProcess:));
+    connect(controls.resetFullscreenSettingsButton, target, @selector(resetFullscreenSettings:));
+    connect([view_.get() addButton], target, @selector(addHideApp:));
+    [controls.hideAppsTable setDataSource:target];
 }
 
 #pragma mark - What the pane knows

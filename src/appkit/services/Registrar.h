@@ -1,8 +1,8 @@
 #pragma once
 
 #include "appkit/services/SorterControlProtocol.h"
-#include "sorter/QBSPSorterControl.h"
 #include "platform/Runtime.h"
+#include "sorter/QBSPSorterControl.h"
 
 #include <optional>
 

@@ -15,7 +15,7 @@ namespace qbsp::appkit {
 [[nodiscard]] NSButton* makeCheckBox();
 [[nodiscard]] NSButton* makePushButton();
 
-/// The hide list's table: the column "1" of names, which cannot be edited, and the column "2" of check boxes.
+/// The hide list's table: a column of names, which cannot be edited, and one of check boxes.
 [[nodiscard]] NSTableView* makeHideTable();
 
 /// The table in a frame that scrolls.

@@ -1,6 +1,8 @@
 #import "appkit/view/ControlMaking.h"
 
+#include "appkit/bridge/Strings.h"
 #import "appkit/view/QBSPNameFormatter.h"
+#include "pane/PaneControls.h"
 
 namespace qbsp::appkit {
 
@@ -38,7 +40,7 @@ NSTableColumn* makeNameColumn() {
     NSTextFieldCell* cell = [[[NSTextFieldCell alloc] initTextCell:@""] autorelease];
     [cell setFormatter:[[[QBSPNameFormatter alloc] init] autorelease]];
     [cell setLineBreakMode:NSLineBreakByTruncatingTail];
-    NSTableColumn* column = makeColumn(@"1", cell);
+    NSTableColumn* column = makeColumn(nsString(nameColumn.text), cell);
     [column setEditable:NO];
     [column setResizingMask:NSTableColumnAutoresizingMask];
     return column;
@@ -48,7 +50,7 @@ NSTableColumn* makeFlagColumn() {
     NSButtonCell* cell = [[[NSButtonCell alloc] initTextCell:@""] autorelease];
     [cell setButtonType:NSSwitchButton];
     [cell setImagePosition:NSImageOnly];
-    NSTableColumn* column = makeColumn(@"2", cell);
+    NSTableColumn* column = makeColumn(nsString(flagColumn.text), cell);
     [column setResizingMask:NSTableColumnNoResizing];
     [[column headerCell] setAlignment:NSCenterTextAlignment];
     return column;

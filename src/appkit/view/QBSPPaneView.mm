@@ -1,14 +1,15 @@
 #import "appkit/view/QBSPPaneView.h"
 
+#include "appkit/bridge/Strings.h"
 #import "appkit/view/ControlMaking.h"
 #import "appkit/view/TextMeasuring.h"
 
-#include <array>
-#include <cstddef>
+#include <vector>
 
 using qbsp::appkit::FormLayout;
 using qbsp::appkit::FormRow;
 using qbsp::appkit::Stretch;
+using qbsp::appkit::ViewControls;
 
 static const NSSize initialSize = {580, 560};
 static const NSSize recorderSize = {220, 26};
@@ -21,15 +22,39 @@ static bool hasTitle(NSView* control) {
     return [control isKindOfClass:[NSButton class]] && [[static_cast<NSButton*>(control) title] length] > 0;
 }
 
+static NSString* const addButtonName = @"addButton";
+
+static NSString* nsName(const char* name) {
+    return [NSString stringWithUTF8String:name];
+}
+
+// Most controls of a kind are alike.
+
+static void make(NSTextField*& label) {
+    label = qbsp::appkit::makeLabel(NSRightTextAlignment);
+}
+
+static void make(NSButton*& button) {
+    button = qbsp::appkit::makePushButton();
+}
+
+static void make(NSTableView*& table) {
+    table = qbsp::appkit::makeHideTable();
+}
+
+static void make(QBSPRecorderView*& recorder) {
+    const NSRect frame = NSMakeRect(0, 0, recorderSize.width, recorderSize.height);
+    recorder = [[[QBSPRecorderView alloc] initWithFrame:frame] autorelease];
+}
+
 @interface QBSPPaneView ()
-- (void)makeLabels;
 - (void)makeControls;
-- (QBSPRecorderView*)makeRecorder;
 - (void)makeForm;
 - (void)addControls;
 - (void)chainControls;
 - (void)layOutForm;
 - (void)fitColumns;
+- (std::vector<NSView*>)controlsInTabOrder;
 @end
 
 @implementation QBSPPaneView
@@ -37,7 +62,6 @@ static bool hasTitle(NSView* control) {
 - (id)initWithFrame:(NSRect)frame {
     if ((self = [super initWithFrame:NSMakeRect(0, 0, initialSize.width, initialSize.height)]) != nil) {
         [self setAutoresizingMask:NSViewWidthSizable | NSViewHeightSizable];
-        [self makeLabels];
         [self makeControls];
         [self makeForm];
         [self addControls];
@@ -46,59 +70,38 @@ static bool hasTitle(NSView* control) {
     return self;
 }
 
-- (void)dealloc {
-    delete form;
-    [super dealloc];
-}
-
 #pragma mark - Making the controls
 
-- (void)makeLabels {
-    descriptionLabel = qbsp::appkit::makeLabel(NSLeftTextAlignment);
-    availabilityLabel = qbsp::appkit::makeLabel(NSRightTextAlignment);
-    visibilityLabel = qbsp::appkit::makeLabel(NSRightTextAlignment);
-    takeNoteLabel = qbsp::appkit::makeLabel(NSRightTextAlignment);
-    copySelectionLabel = qbsp::appkit::makeLabel(NSRightTextAlignment);
-    hideAppLabel = qbsp::appkit::makeLabel(NSRightTextAlignment);
-    attentionLabel = qbsp::appkit::makeRemark();
-    reasonField = qbsp::appkit::makeRemark();
-}
-
 - (void)makeControls {
-    showAtLoginCheckbox = qbsp::appkit::makeCheckBox();
-    toggleLaunchButton = qbsp::appkit::makePushButton();
-    visibilityButton = qbsp::appkit::makeCheckBox();
-    noteHotKeyRecorder = [self makeRecorder];
-    clipHotKeyRecorder = [self makeRecorder];
-    hideAppsTable = qbsp::appkit::makeHideTable();
-    hideAppsScrollView = qbsp::appkit::makeScrollView(hideAppsTable);
+    qbsp::forEachControl([](const char*, auto& control) { make(control); }, controls);
+    controls.descriptionLabel = qbsp::appkit::makeLabel(NSLeftTextAlignment);
+    controls.attentionLabel = qbsp::appkit::makeRemark();
+    controls.showAtLoginCheckbox = qbsp::appkit::makeCheckBox();
+    controls.visibilityButton = qbsp::appkit::makeCheckBox();
+    reasonField = qbsp::appkit::makeRemark();
+    [controls.noteHotKeyRecorder setReasonField:reasonField];
+    [controls.clipHotKeyRecorder setReasonField:reasonField];
+    hideAppsScrollView = qbsp::appkit::makeScrollView(controls.hideAppsTable);
     addButton = qbsp::appkit::makePushButton();
-    resetFullscreenSettingsButton = qbsp::appkit::makePushButton();
-}
-
-- (QBSPRecorderView*)makeRecorder {
-    const NSRect frame = NSMakeRect(0, 0, recorderSize.width, recorderSize.height);
-    QBSPRecorderView* recorder = [[[QBSPRecorderView alloc] initWithFrame:frame] autorelease];
-    [recorder setReasonField:reasonField];
-    return recorder;
 }
 
 - (void)makeForm {
-    form = new FormLayout;
-    form->setIntroduction(descriptionLabel);
-    form->addRow({availabilityLabel, {showAtLoginCheckbox}, groupGap});
-    form->addRow({nil, {toggleLaunchButton, attentionLabel}, gap});
-    form->addRow({visibilityLabel, {visibilityButton}, groupGap});
-    form->addRow({takeNoteLabel, {noteHotKeyRecorder}, groupGap});
-    form->addRow({copySelectionLabel, {clipHotKeyRecorder}, gap});
+    const ViewControls& c = controls;
+    form = std::make_unique<FormLayout>();
+    form->setIntroduction(c.descriptionLabel);
+    form->addRow({c.availabilityLabel, {c.showAtLoginCheckbox}, groupGap});
+    form->addRow({nil, {c.toggleLaunchButton, c.attentionLabel}, gap});
+    form->addRow({c.visibilityLabel, {c.visibilityButton}, groupGap});
+    form->addRow({c.takeNoteLabel, {c.noteHotKeyRecorder}, groupGap});
+    form->addRow({c.copySelectionLabel, {c.clipHotKeyRecorder}, gap});
     // A reason comes and goes, and nothing moves: there is always room for the longest.
     form->addRow({nil, {reasonField}, 4, Stretch::width, qbsp::appkit::heightOfLines(reasonField, 2)});
-    form->addRow({hideAppLabel, {hideAppsScrollView}, 4, Stretch::widthAndHeight});
-    form->addRow({nil, {addButton, resetFullscreenSettingsButton}, gap});
+    form->addRow({c.hideAppLabel, {hideAppsScrollView}, 4, Stretch::widthAndHeight});
+    form->addRow({nil, {addButton, c.resetFullscreenSettingsButton}, gap});
 }
 
 - (void)addControls {
-    [self addSubview:descriptionLabel];
+    [self addSubview:controls.descriptionLabel];
     for (const FormRow& row : form->rows()) {
         if (row.label != nil)
             [self addSubview:row.label];
@@ -108,11 +111,21 @@ static bool hasTitle(NSView* control) {
 }
 
 - (void)chainControls {
-    const std::array<NSView*, 8> order{showAtLoginCheckbox, toggleLaunchButton,           visibilityButton,
-                                       noteHotKeyRecorder,  clipHotKeyRecorder,           hideAppsTable,
-                                       addButton,           resetFullscreenSettingsButton};
+    const std::vector<NSView*> order = [self controlsInTabOrder];
     for (std::size_t index = 0; index < order.size(); ++index)
         [order[index] setNextKeyView:order[(index + 1) % order.size()]];
+}
+
+// From top to bottom, as they are laid out. A text takes no keys, and of the list it is the table that does.
+- (std::vector<NSView*>)controlsInTabOrder {
+    std::vector<NSView*> order;
+    for (const FormRow& row : form->rows())
+        for (NSView* control : row.controls)
+            if (control == hideAppsScrollView)
+                order.push_back(controls.hideAppsTable);
+            else if (![control isKindOfClass:[NSTextField class]])
+                order.push_back(control);
+    return order;
 }
 
 #pragma mark - Layout
@@ -129,7 +142,7 @@ static bool hasTitle(NSView* control) {
     for (const FormRow& row : form->rows())
         if (row.label != nil && !hasTitle(row.controls.front()))
             qbsp::appkit::setAccessibilityLabel(row.controls.front(), [row.label stringValue]);
-    qbsp::appkit::setAccessibilityLabel(hideAppsTable, [hideAppLabel stringValue]);
+    qbsp::appkit::setAccessibilityLabel(controls.hideAppsTable, [controls.hideAppLabel stringValue]);
     [self layOutForm];
 }
 
@@ -142,85 +155,58 @@ static bool hasTitle(NSView* control) {
 // The flags take the room of their title, and the names what is left. A column may take more room than its
 // width.
 - (void)fitColumns {
-    NSTableColumn* names = [hideAppsTable tableColumnWithIdentifier:@"1"];
-    NSTableColumn* flags = [hideAppsTable tableColumnWithIdentifier:@"2"];
+    NSTableColumn* names =
+        [controls.hideAppsTable tableColumnWithIdentifier:qbsp::appkit::nsString(qbsp::nameColumn.text)];
+    NSTableColumn* flags =
+        [controls.hideAppsTable tableColumnWithIdentifier:qbsp::appkit::nsString(qbsp::flagColumn.text)];
     const CGFloat title = [[flags headerCell] cellSize].width + headerPadding;
     [flags setMaxWidth:MAX(narrowestFlagColumn, title)];
     [flags setMinWidth:[flags maxWidth]];
     [flags setWidth:[flags maxWidth]];
-    const CGFloat spacing = NSMaxX([hideAppsTable rectOfColumn:1]) - [names width] - [flags width];
+    const CGFloat spacing = NSMaxX([controls.hideAppsTable rectOfColumn:1]) - [names width] - [flags width];
     const CGFloat room = [hideAppsScrollView contentSize].width - spacing - [flags width];
     [names setWidth:MAX([flags width], room)];
 }
 
 #pragma mark - The controls
 
-- (QBSPRecorderView*)clipHotKeyRecorder {
-    return clipHotKeyRecorder;
-}
-
-- (QBSPRecorderView*)noteHotKeyRecorder {
-    return noteHotKeyRecorder;
-}
-
-- (NSButton*)showAtLoginCheckbox {
-    return showAtLoginCheckbox;
-}
-
-- (NSButton*)toggleLaunchButton {
-    return toggleLaunchButton;
-}
-
-- (NSButton*)visibilityButton {
-    return visibilityButton;
-}
-
-- (NSTextField*)availabilityLabel {
-    return availabilityLabel;
-}
-
-- (NSTextField*)visibilityLabel {
-    return visibilityLabel;
-}
-
-- (NSTextField*)descriptionLabel {
-    return descriptionLabel;
-}
-
-- (NSTextField*)takeNoteLabel {
-    return takeNoteLabel;
-}
-
-- (NSTextField*)copySelectionLabel {
-    return copySelectionLabel;
-}
-
-- (NSTextField*)attentionLabel {
-    return attentionLabel;
+- (const ViewControls&)controls {
+    return controls;
 }
 
 - (NSButton*)addButton {
     return addButton;
 }
 
-- (NSButton*)resetFullscreenSettingsButton {
-    return resetFullscreenSettingsButton;
+- (NSArray*)controlNames {
+    NSMutableArray* names = [NSMutableArray array];
+    qbsp::forEachControl([names](const char* name) { [names addObject:nsName(name)]; });
+    return names;
 }
 
-- (NSTableView*)hideAppsTable {
-    return hideAppsTable;
+- (NSView*)controlNamed:(NSString*)name {
+    NSView* found = [name isEqualToString:addButtonName] ? addButton : nil;
+    qbsp::forEachControl(
+        [&](const char* each, NSView* control) {
+            if ([name isEqualToString:nsName(each)])
+                found = control;
+        },
+        controls);
+    return found;
 }
 
-- (NSTextField*)hideAppLabel {
-    return hideAppLabel;
+- (id)valueForUndefinedKey:(NSString*)key {
+    NSView* control = [self controlNamed:key];
+    return control == nil ? [super valueForUndefinedKey:key] : control;
 }
 
 - (NSView*)firstControl {
-    return [showAtLoginCheckbox isHidden] ? toggleLaunchButton : showAtLoginCheckbox;
+    return [controls.showAtLoginCheckbox isHidden] ? controls.toggleLaunchButton
+                                                   : controls.showAtLoginCheckbox;
 }
 
 - (NSView*)lastControl {
-    return resetFullscreenSettingsButton;
+    return controls.resetFullscreenSettingsButton;
 }
 
 @end

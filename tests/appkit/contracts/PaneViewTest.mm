@@ -11,8 +11,8 @@ constexpr CGFloat narrowest = 520;
 
 QBSPPaneView* narrowView() {
     QBSPPaneView* view = [[[QBSPPaneView alloc] initWithFrame:NSZeroRect] autorelease];
-    [[view takeNoteLabel] setStringValue:@"Take Note Hotkey:"];
-    [[view copySelectionLabel] setStringValue:@"Copy Selection Hotkey:"];
+    [[view controls].takeNoteLabel setStringValue:@"Take Note Hotkey:"];
+    [[view controls].copySelectionLabel setStringValue:@"Copy Selection Hotkey:"];
     [view setFrameSize:NSMakeSize(narrowest, 560)];
     [view contentsDidChange];
     return view;
@@ -21,7 +21,7 @@ QBSPPaneView* narrowView() {
 } // namespace
 
 TEST(PaneView, HasRoomForTheLongestReasonBeforeItIsShown) {
-    NSTextField* field = [[narrowView() noteHotKeyRecorder] reasonField];
+    NSTextField* field = [[narrowView() controls].noteHotKeyRecorder reasonField];
 
     [field
         setStringValue:@"Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well."];

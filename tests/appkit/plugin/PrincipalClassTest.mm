@@ -36,12 +36,6 @@ struct KeyCombo {
 - (void)updateToggleButtonTitle;
 @end
 
-@interface NSView (Controls)
-- (NSView*)clipHotKeyRecorder;
-- (NSView*)noteHotKeyRecorder;
-- (NSButton*)toggleLaunchButton;
-@end
-
 namespace {
 
 void store(id value, NSString* key, NSString* domain) {
@@ -82,7 +76,9 @@ class PrincipalClass : public RealSession {
         return [[[bundle principalClass] alloc] initWithBundle:bundle];
     }
 
-    [[nodiscard]] NSString* buttonTitle() const { return [[[pane mainView] toggleLaunchButton] title]; }
+    [[nodiscard]] NSString* buttonTitle() const {
+        return [[[pane mainView] valueForKey:@"toggleLaunchButton"] title];
+    }
 
     NSPreferencePane* const pane = makePane();
 };
@@ -127,8 +123,8 @@ TEST_F(PrincipalClass, LoadsTheStoredListAndFindsItsRowsIgnoringCase) {
 }
 
 TEST_F(PrincipalClass, StoresTheCombinationOfItsOwnRecorderAndRefusesItToTheOther) {
-    id clip = [[pane mainView] clipHotKeyRecorder];
-    id note = [[pane mainView] noteHotKeyRecorder];
+    id clip = [[pane mainView] valueForKey:@"clipHotKeyRecorder"];
+    id note = [[pane mainView] valueForKey:@"noteHotKeyRecorder"];
     NSString* reason = nil;
 
     [pane shortcutRecorder:clip keyComboDidChange:KeyCombo{.flags = 0x120000, .code = 8}];
@@ -157,7 +153,7 @@ TEST_F(PrincipalClass, RaisesTheRestartFlagForEnableAttentionLabel) {
 }
 
 TEST_F(PrincipalClass, RefreshesTheButtonWhenTheEditionsSorterDied) {
-    [[[pane mainView] toggleLaunchButton] setTitle:@""];
+    [[[pane mainView] valueForKey:@"toggleLaunchButton"] setTitle:@""];
     const auto died = [&](NSString* identifier) {
         NSDictionary* info = [NSDictionary dictionaryWithObject:identifier
                                                          forKey:@"NSApplicationBundleIdentifier"];
