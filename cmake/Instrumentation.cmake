@@ -5,7 +5,7 @@ if(SORTERPANE_CHECKS STREQUAL "coverage")
     add_compile_options(--coverage -fno-threadsafe-statics)
     add_link_options(--coverage)
     # Headers are included through links; the report knows them by where they lie.
-    foreach(room IN ITEMS platform pane settings sorter hotkeys hidelist simulated)
+    foreach(room IN ITEMS platform pane settings sorter hotkeys hidelist scenario simulated)
         foreach(way IN ITEMS inside offered)
             add_compile_options("-fprofile-prefix-map=${ROOM_INCLUDES}/${way}/${room}=${PROJECT_SOURCE_DIR}/src")
         endforeach()

@@ -1,169 +1,39 @@
 #include "simulated/Arguments.h"
 
 #include "simulated/Json.h"
-#include "simulated/ScenarioError.h"
 #include "sorter/SorterIdentity.h"
 
-#include <algorithm>
-#include <charconv>
-#include <limits>
+#include <nlohmann/json.hpp>
+
+#include <map>
 
 namespace qbsp::simulated {
 
 namespace {
-
-std::string_view withoutLeadingSpaces(std::string_view text) {
-    return text.substr(std::min(text.find_first_not_of(' '), text.size()));
-}
-
-/// Where the JSON string that begins the text ends, its closing quote included.
-std::size_t endOfString(std::string_view text) {
-    for (std::size_t i = 1; i < text.size(); ++i) {
-        if (text[i] == '"')
-            return i + 1;
-        if (text[i] == '\\')
-            ++i;
-    }
-    throw ScenarioError("a string without an end");
-}
-
-platform::Value parsed(std::string_view text) {
-    try {
-        return parseJson(text);
-    } catch (const std::invalid_argument& error) {
-        throw ScenarioError(std::string("malformed value: ") + error.what());
-    }
-}
-
-struct WholeNumber {
-    bool negative = false;
-    std::uint64_t magnitude = 0;
-};
-
-WholeNumber wholeNumber(const std::string& text) {
-    std::string_view digits = text;
-    WholeNumber number;
-    number.negative = digits.starts_with('-');
-    digits.remove_prefix(number.negative ? 1 : 0);
-    const int base = digits.starts_with("0x") ? 16 : 10;
-    digits.remove_prefix(base == 16 ? 2 : 0);
-    const auto [end, error] =
-        std::from_chars(digits.data(), digits.data() + digits.size(), number.magnitude, base);
-    if (error != std::errc() || end != digits.data() + digits.size())
-        throw ScenarioError("not a whole number of 64 bits: " + jsonText(text));
-    return number;
-}
 
 const std::map<std::string, platform::BundleIdentifier, std::less<>> identifierWords = {
     {"full", SorterBundleIdentifier},
     {"solo", SoloSorterBundleIdentifier},
     {"embedded", SorterLoginItemIdentifier}};
 
+std::string identifierOf(const scenario::Argument& argument) {
+    const auto word = identifierWords.find(argument.text);
+    return argument.quoted || word == identifierWords.end() ? argument.text : std::string(word->second.text);
+}
+
 } // namespace
 
-Arguments::Token Arguments::token() {
-    if (rest_.empty())
-        throw ScenarioError("an argument is missing");
-    if (rest_.starts_with('"'))
-        return quotedToken();
-    const auto end = std::min(rest_.find(' '), rest_.size());
-    Token token{std::string(rest_.substr(0, end))};
-    rest_ = withoutLeadingSpaces(rest_.substr(end));
-    return token;
+std::string takeIdentifier(scenario::Words& words) {
+    return identifierOf(words.argument());
 }
 
-Arguments::Token Arguments::quotedToken() {
-    const auto end = endOfString(rest_);
-    if (end < rest_.size() && rest_[end] != ' ')
-        throw ScenarioError("a string that does not end its argument");
-    Token token{*parsed(rest_.substr(0, end)).as<std::string>(), true};
-    rest_ = withoutLeadingSpaces(rest_.substr(end));
-    return token;
+std::optional<std::string> takeIdentifierOrNull(scenario::Words& words) {
+    const scenario::Argument argument = words.argument();
+    return argument.text == "null" && !argument.quoted ? std::nullopt : std::optional(identifierOf(argument));
 }
 
-std::string Arguments::word() {
-    const Token next = token();
-    if (next.quoted)
-        throw ScenarioError("a string where a word is expected: " + jsonText(next.text));
-    return next.text;
-}
-
-std::string Arguments::oneOf(const std::vector<std::string_view>& words) {
-    std::string next = word();
-    if (std::ranges::find(words, next) == words.end())
-        throw ScenarioError("an unexpected word: " + jsonText(next));
-    return next;
-}
-
-bool Arguments::boolean() {
-    return oneOf({"true", "false"}) == "true";
-}
-
-std::string Arguments::text() {
-    return token().text;
-}
-
-std::optional<std::string> Arguments::textOrNull() {
-    const Token next = token();
-    return next.text == "null" && !next.quoted ? std::nullopt : std::optional(next.text);
-}
-
-std::string Arguments::identifier() {
-    const Token next = token();
-    const auto word = identifierWords.find(next.text);
-    return next.quoted || word == identifierWords.end() ? next.text : std::string(word->second.text);
-}
-
-std::optional<std::string> Arguments::identifierOrNull() {
-    const bool isNull = rest_ == "null" || rest_.starts_with("null ");
-    const std::string next = identifier();
-    return isNull ? std::nullopt : std::optional(next);
-}
-
-std::int64_t Arguments::signed64() {
-    const std::string text = word();
-    const WholeNumber number = wholeNumber(text);
-    constexpr auto highest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
-    if (number.magnitude > highest + (number.negative ? 1 : 0))
-        throw ScenarioError("not a signed number of 64 bits: " + jsonText(text));
-    return static_cast<std::int64_t>(number.negative ? 0 - number.magnitude : number.magnitude);
-}
-
-std::uint64_t Arguments::unsigned64() {
-    const std::string text = word();
-    const WholeNumber number = wholeNumber(text);
-    if (number.negative && number.magnitude != 0)
-        throw ScenarioError("not an unsigned number of 64 bits: " + jsonText(text));
-    return number.magnitude;
-}
-
-std::int32_t Arguments::signed32() {
-    const std::int64_t number = signed64();
-    if (number < std::numeric_limits<std::int32_t>::min() ||
-        number > std::numeric_limits<std::int32_t>::max())
-        throw ScenarioError("not a signed number of 32 bits: " + std::to_string(number));
-    return static_cast<std::int32_t>(number);
-}
-
-Decimal Arguments::seconds() {
-    const std::string text = word();
-    const auto seconds = Decimal::parse(text);
-    if (!seconds)
-        throw ScenarioError("not a number of seconds: " + jsonText(text));
-    return *seconds;
-}
-
-platform::Value Arguments::value() {
-    if (rest_.empty())
-        throw ScenarioError("a value is missing");
-    auto value = parsed(rest_);
-    rest_ = {};
-    return value;
-}
-
-void Arguments::finish() const {
-    if (!rest_.empty())
-        throw ScenarioError("something is left over: " + jsonText(rest_));
+platform::Value takeValue(scenario::Words& words) {
+    return valueOf(words.value());
 }
 
 } // namespace qbsp::simulated

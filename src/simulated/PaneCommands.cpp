@@ -1,18 +1,22 @@
 #include "simulated/PaneCommands.h"
 
 #include "pane/SharedSorterFolder.h"
+#include "scenario/CommandTable.h"
+#include "scenario/ScenarioError.h"
+#include "simulated/Arguments.h"
 #include "simulated/Json.h"
-#include "simulated/ScenarioError.h"
 #include "simulated/StateText.h"
 
-#include <map>
+#include <array>
 
 namespace qbsp::simulated {
 
 namespace {
 
+using scenario::ScenarioError;
+using scenario::Words;
+
 using Answer = std::optional<std::string>;
-using Reader = PaneAction (*)(Arguments& arguments, PaneSession& session);
 
 /// An action without an answer.
 PaneAction silent(std::function<void()> action) {
@@ -44,11 +48,11 @@ const platform::RecorderControl& recorder(const PaneSession& session, const std:
     return name == "note" ? *controls.noteHotKeyRecorder : platform::nullObject<platform::RecorderControl>();
 }
 
-std::string recorderName(Arguments& arguments) {
+std::string recorderName(Words& arguments) {
     return arguments.oneOf({"clip", "note", "other"});
 }
 
-std::int32_t rowInList(Arguments& arguments, const PaneSession& session) {
+std::int32_t rowInList(Words& arguments, const PaneSession& session) {
     const std::int32_t row = arguments.signed32();
     const auto rows = static_cast<std::int64_t>(session.pane().tableArray().records().size());
     if (row < 0 || row >= rows)
@@ -57,20 +61,20 @@ std::int32_t rowInList(Arguments& arguments, const PaneSession& session) {
 }
 
 template <void (QBSPPreferencePane::*Message)()>
-PaneAction send(Arguments&, PaneSession& session) {
+PaneAction send(Words&, PaneSession& session) {
     return silent([&session] { (session.pane().*Message)(); });
 }
 
 template <void (QBSPPreferencePane::*Message)(QBSPPreferencePane::Sender)>
-PaneAction sendFromButton(Arguments&, PaneSession& session) {
+PaneAction sendFromButton(Words&, PaneSession& session) {
     return silent([&session] { (session.pane().*Message)(nullptr); });
 }
 
-PaneAction readInitialize(Arguments&, PaneSession& session) {
+PaneAction readInitialize(Words&, PaneSession& session) {
     return silent([&session] { session.initialize(); });
 }
 
-PaneAction readCreate(Arguments&, PaneSession& session) {
+PaneAction readCreate(Words&, PaneSession& session) {
     if (session.hasPane())
         throw ScenarioError("out of place: there is a pane");
     return [&session] {
@@ -78,23 +82,23 @@ PaneAction readCreate(Arguments&, PaneSession& session) {
     };
 }
 
-PaneAction readLoadView(Arguments&, PaneSession& session) {
+PaneAction readLoadView(Words&, PaneSession& session) {
     if (session.hasView())
         throw ScenarioError("out of place: the view is loaded");
     return silent([&session] { session.loadView(); });
 }
 
-PaneAction readDealloc(Arguments&, PaneSession& session) {
+PaneAction readDealloc(Words&, PaneSession& session) {
     return silent([&session] { session.dealloc(); });
 }
 
-PaneAction readAdd(Arguments& arguments, PaneSession& session) {
+PaneAction readAdd(Words& arguments, PaneSession& session) {
     if (session.platform().openPanels.sheetIsOpen())
         throw ScenarioError("out of place: a sheet is open");
     return sendFromButton<&QBSPPreferencePane::addHideApp>(arguments, session);
 }
 
-PaneAction readPanel(Arguments& arguments, PaneSession& session) {
+PaneAction readPanel(Words& arguments, PaneSession& session) {
     if (!session.platform().openPanels.sheetIsOpen())
         throw ScenarioError("out of place: no sheet is open");
     const std::int64_t result = arguments.signed64();
@@ -104,7 +108,7 @@ PaneAction readPanel(Arguments& arguments, PaneSession& session) {
     return silent([=, &session] { session.platform().openPanels.endSheet(result, path); });
 }
 
-PaneAction readOffer(Arguments& arguments, PaneSession& session) {
+PaneAction readOffer(Words& arguments, PaneSession& session) {
     const std::string name = recorderName(arguments);
     const std::int64_t code = arguments.signed64();
     const platform::CocoaFlags flags = arguments.unsigned64();
@@ -116,7 +120,7 @@ PaneAction readOffer(Arguments& arguments, PaneSession& session) {
     };
 }
 
-PaneAction readOfferSilently(Arguments& arguments, PaneSession& session) {
+PaneAction readOfferSilently(Words& arguments, PaneSession& session) {
     const std::string name = recorderName(arguments);
     const std::int64_t code = arguments.signed64();
     const platform::CocoaFlags flags = arguments.unsigned64();
@@ -127,7 +131,7 @@ PaneAction readOfferSilently(Arguments& arguments, PaneSession& session) {
     };
 }
 
-PaneAction readChange(Arguments& arguments, PaneSession& session) {
+PaneAction readChange(Words& arguments, PaneSession& session) {
     const std::string name = recorderName(arguments);
     const std::int64_t code = arguments.signed64();
     const platform::CocoaFlags flags = arguments.unsigned64();
@@ -136,7 +140,7 @@ PaneAction readChange(Arguments& arguments, PaneSession& session) {
     });
 }
 
-PaneAction readSet(Arguments& arguments, PaneSession& session) {
+PaneAction readSet(Words& arguments, PaneSession& session) {
     const std::string field = arguments.text();
     const std::string state = arguments.oneOf({"1", "0", "-1"});
     SimulatedButton* const box = session.hasView() ? session.view()->checkBox(field) : nullptr;
@@ -145,17 +149,17 @@ PaneAction readSet(Arguments& arguments, PaneSession& session) {
     return silent([=] { box->click(static_cast<platform::ButtonState>(std::stoi(state))); });
 }
 
-PaneAction readEdit(Arguments& arguments, PaneSession& session) {
+PaneAction readEdit(Words& arguments, PaneSession& session) {
     const std::string column = arguments.text();
     const std::int32_t row = rowInList(arguments, session);
-    const platform::Value value = arguments.value();
+    const platform::Value value = takeValue(arguments);
     return silent([=, &session] {
         session.pane().tableViewSetObjectValueForTableColumnRow(*session.pane().controls.hideAppsTable, value,
                                                                 NamedColumn(column), row);
     });
 }
 
-PaneAction readValue(Arguments& arguments, PaneSession& session) {
+PaneAction readValue(Words& arguments, PaneSession& session) {
     const std::string column = arguments.text();
     const std::int32_t row = rowInList(arguments, session);
     return [=, &session]() -> Answer {
@@ -164,113 +168,118 @@ PaneAction readValue(Arguments& arguments, PaneSession& session) {
     };
 }
 
-PaneAction readRows(Arguments&, PaneSession& session) {
+PaneAction readRows(Words&, PaneSession& session) {
     return [&session]() -> Answer {
         return json(session.pane().numberOfRowsInTableView(*session.pane().controls.hideAppsTable));
     };
 }
 
-PaneAction readFind(Arguments& arguments, PaneSession& session) {
+PaneAction readFind(Words& arguments, PaneSession& session) {
     return [name = arguments.text(), &session]() -> Answer {
         return json(session.pane().indexOfAppInList(name));
     };
 }
 
-PaneAction readTerminated(Arguments& arguments, PaneSession& session) {
+PaneAction readTerminated(Words& arguments, PaneSession& session) {
     platform::Notification termination;
-    if (const auto identifier = arguments.identifierOrNull())
+    if (const auto identifier = takeIdentifierOrNull(arguments))
         termination.userInfo.emplace("NSApplicationBundleIdentifier", *identifier);
     return [=, &session]() -> Answer {
         return json(session.platform().workspace.report(session.pane(), termination));
     };
 }
 
-PaneAction readWait(Arguments& arguments, PaneSession& session) {
+PaneAction readWait(Words& arguments, PaneSession& session) {
     return silent([seconds = arguments.seconds(), &session] { session.platform().runLoop.runFor(seconds); });
 }
 
-PaneAction readRaise(Arguments& arguments, PaneSession& session) {
+PaneAction readRaise(Words& arguments, PaneSession& session) {
     std::ignore = arguments.oneOf({"deleteFullScreenSettingsInSorter"});
     return silent([&session] { session.pane().setDeleteFullScreenSettingsInSorter(true); });
 }
 
-PaneAction readInLoginItems(Arguments&, PaneSession& session) {
+PaneAction readInLoginItems(Words&, PaneSession& session) {
     return [&session]() -> Answer {
         return json(session.pane().appIsPresentInLoginItems());
     };
 }
 
-PaneAction readLoginItemAlert(Arguments& arguments, PaneSession& session) {
+PaneAction readLoginItemAlert(Words& arguments, PaneSession& session) {
     return silent(
         [message = arguments.text(), &session] { session.pane().showLoginItemEditFailureAlert(message); });
 }
 
-PaneAction readSharedFolder(Arguments&, PaneSession& session) {
+PaneAction readSharedFolder(Words&, PaneSession& session) {
     return [&session]() -> Answer {
         const auto folder = sharedSorterFolder(session.platform().files, session.platform().log);
         return folder ? jsonText(folder->path()) : "null";
     };
 }
 
-PaneAction readState(Arguments&, PaneSession& session) {
+PaneAction readState(Words&, PaneSession& session) {
     return silent([&session] { writeState(session); });
 }
 
-PaneAction readStores(Arguments&, PaneSession& session) {
+PaneAction readStores(Words&, PaneSession& session) {
     return silent([&session] { writeStores(session.platform()); });
 }
 
 /// Whether a command makes sense while there is no pane.
 enum class Pane { needed, notNeeded };
 
-struct Command {
+struct PaneCommand {
+    std::string_view name;
+    std::string_view arguments;
     Pane pane;
-    Reader read;
+    PaneAction (*read)(Words& arguments, PaneSession& session);
 };
 
-const std::map<std::string, Command, std::less<>> commands = {
-    {"initialize", {Pane::notNeeded, readInitialize}},
-    {"create", {Pane::notNeeded, readCreate}},
-    {"load-view", {Pane::needed, readLoadView}},
-    {"select", {Pane::needed, send<&QBSPPreferencePane::willSelect>}},
-    {"unselect", {Pane::needed, send<&QBSPPreferencePane::willUnselect>}},
-    {"dealloc", {Pane::needed, readDealloc}},
-    {"toggle", {Pane::needed, sendFromButton<&QBSPPreferencePane::toggleSorterProcess>}},
-    {"reset", {Pane::needed, sendFromButton<&QBSPPreferencePane::resetFullscreenSettings>}},
-    {"add", {Pane::needed, readAdd}},
-    {"panel", {Pane::notNeeded, readPanel}},
-    {"offer", {Pane::needed, readOffer}},
-    {"offer-silently", {Pane::needed, readOfferSilently}},
-    {"change", {Pane::needed, readChange}},
-    {"set", {Pane::needed, readSet}},
-    {"edit", {Pane::needed, readEdit}},
-    {"value", {Pane::needed, readValue}},
-    {"rows", {Pane::needed, readRows}},
-    {"find", {Pane::needed, readFind}},
-    {"terminated", {Pane::needed, readTerminated}},
-    {"wait", {Pane::notNeeded, readWait}},
-    {"raise", {Pane::needed, readRaise}},
-    {"show-sorter", {Pane::needed, send<&QBSPPreferencePane::showSorterApplication>}},
-    {"close-sorter", {Pane::needed, send<&QBSPPreferencePane::closeSorterApplication>}},
-    {"in-login-items", {Pane::needed, readInLoginItems}},
-    {"login-item-alert", {Pane::needed, readLoginItemAlert}},
-    {"shared-folder", {Pane::notNeeded, readSharedFolder}},
-    {"state", {Pane::needed, readState}},
-    {"stores", {Pane::notNeeded, readStores}},
-};
+constexpr auto paneCommands = std::to_array<PaneCommand>({
+    {"initialize", "", Pane::notNeeded, readInitialize},
+    {"create", "", Pane::notNeeded, readCreate},
+    {"load-view", "", Pane::needed, readLoadView},
+    {"select", "", Pane::needed, send<&QBSPPreferencePane::willSelect>},
+    {"unselect", "", Pane::needed, send<&QBSPPreferencePane::willUnselect>},
+    {"dealloc", "", Pane::needed, readDealloc},
+    {"toggle", "", Pane::needed, sendFromButton<&QBSPPreferencePane::toggleSorterProcess>},
+    {"reset", "", Pane::needed, sendFromButton<&QBSPPreferencePane::resetFullscreenSettings>},
+    {"add", "", Pane::needed, readAdd},
+    {"panel", "CODE [PATH]", Pane::notNeeded, readPanel},
+    {"offer", "clip|note|other CODE FLAGS", Pane::needed, readOffer},
+    {"offer-silently", "clip|note|other CODE FLAGS", Pane::needed, readOfferSilently},
+    {"change", "clip|note|other CODE FLAGS", Pane::needed, readChange},
+    {"set", "FIELD 1|0|-1", Pane::needed, readSet},
+    {"edit", "COLUMN ROW VALUE", Pane::needed, readEdit},
+    {"value", "COLUMN ROW", Pane::needed, readValue},
+    {"rows", "", Pane::needed, readRows},
+    {"find", "NAME", Pane::needed, readFind},
+    {"terminated", "ID|null", Pane::needed, readTerminated},
+    {"wait", "SECONDS", Pane::notNeeded, readWait},
+    {"raise", "deleteFullScreenSettingsInSorter", Pane::needed, readRaise},
+    {"show-sorter", "", Pane::needed, send<&QBSPPreferencePane::showSorterApplication>},
+    {"close-sorter", "", Pane::needed, send<&QBSPPreferencePane::closeSorterApplication>},
+    {"in-login-items", "", Pane::needed, readInLoginItems},
+    {"login-item-alert", "MESSAGE", Pane::needed, readLoginItemAlert},
+    {"shared-folder", "", Pane::notNeeded, readSharedFolder},
+    {"state", "", Pane::needed, readState},
+    {"stores", "", Pane::notNeeded, readStores},
+});
 
 } // namespace
 
-std::optional<PaneAction> readPaneCommand(const std::string& command, Arguments& arguments,
-                                          PaneSession& session) {
-    const auto found = commands.find(command);
-    if (found == commands.end())
+std::optional<PaneAction> readPaneCommand(std::string_view name, Words& arguments, PaneSession& session) {
+    const auto* const command = scenario::findCommand(paneCommands, name);
+    if (command == nullptr)
         return std::nullopt;
-    if (found->second.pane == Pane::needed && !session.hasPane())
+    if (command->pane == Pane::needed && !session.hasPane())
         throw ScenarioError("out of place: there is no pane");
-    auto action = found->second.read(arguments, session);
+    auto action = command->read(arguments, session);
     arguments.finish();
     return action;
+}
+
+std::string paneCommandList() {
+    return scenario::commandList(paneCommands);
 }
 
 } // namespace qbsp::simulated

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "simulated/Arguments.h"
+#include "scenario/Words.h"
 #include "simulated/PaneSession.h"
 
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace qbsp::simulated {
 
@@ -13,8 +14,11 @@ namespace qbsp::simulated {
 using PaneAction = std::function<std::optional<std::string>()>;
 
 /// Reads the arguments of the pane command of that name; none when there is no such command. Throws
-/// ScenarioError for arguments that are malformed and for a command out of place.
-[[nodiscard]] std::optional<PaneAction> readPaneCommand(const std::string& command, Arguments& arguments,
+/// scenario::ScenarioError for arguments that are malformed and for a command out of place.
+[[nodiscard]] std::optional<PaneAction> readPaneCommand(std::string_view name, scenario::Words& arguments,
                                                         PaneSession& session);
+
+/// How each pane command is written, a line each.
+[[nodiscard]] std::string paneCommandList();
 
 } // namespace qbsp::simulated

@@ -1,28 +1,15 @@
 #include "simulated/Player.h"
 
+#include "scenario/ScenarioError.h"
+#include "scenario/Words.h"
 #include "simulated/Json.h"
 #include "simulated/PaneCommands.h"
-#include "simulated/ScenarioError.h"
 #include "simulated/WorldCommands.h"
 
 namespace qbsp::simulated {
 
-namespace {
-
-std::string_view withoutOuterSpaces(std::string_view line) {
-    const auto first = line.find_first_not_of(' ');
-    return first == std::string_view::npos ? "" : line.substr(first, line.find_last_not_of(' ') - first + 1);
-}
-
-} // namespace
-
-void Player::play(std::string_view line) {
-    if (!isUtf8(line))
-        throw ScenarioError("not UTF-8");
-    const std::string_view command = withoutOuterSpaces(line);
-    if (command.empty() || command.starts_with('#'))
-        return;
-    Arguments arguments(command);
+void Player::play(std::string_view command) {
+    scenario::Words arguments(command);
     const std::string name = arguments.word();
     if (const auto change = readWorldCommand(name, arguments)) {
         (*change)(platform_.world);
@@ -30,7 +17,7 @@ void Player::play(std::string_view line) {
     }
     const auto action = readPaneCommand(name, arguments, session_);
     if (!action)
-        throw ScenarioError("unknown command: " + jsonText(name));
+        throw scenario::ScenarioError("unknown command: " + jsonText(name));
     output_ << "> " << command << '\n';
     const auto answer = (*action)();
     flush();

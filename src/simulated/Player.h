@@ -3,7 +3,6 @@
 #include "simulated/PaneSession.h"
 
 #include <ostream>
-#include <string>
 #include <string_view>
 
 namespace qbsp::simulated {
@@ -13,8 +12,9 @@ class Player {
 public:
     explicit Player(std::ostream& output) : output_(output) {}
 
-    /// Plays one line. Throws ScenarioError, with nothing of the line printed or sent, when it is wrong.
-    void play(std::string_view line);
+    /// Plays a command, which is a line without outer spaces. Throws scenario::ScenarioError, with nothing of
+    /// the line printed or sent, when it is wrong.
+    void play(std::string_view command);
 
 private:
     void flush();

@@ -11,11 +11,11 @@ void SimulatedRunLoop::performSelectorAfterDelay(platform::Selector selector, st
     std::ignore = transcript_.fails();
     transcript_.told("pane performSelector:withObject:afterDelay:",
                      {jsonText(selector.text), "null", json(delay.count())});
-    waiting_.emplace(now_ + Decimal::of(delay.count()), std::move(message));
+    waiting_.emplace(now_ + scenario::Decimal::of(delay.count()), std::move(message));
 }
 
-void SimulatedRunLoop::runFor(const Decimal& seconds) {
-    const Decimal end = now_ + seconds;
+void SimulatedRunLoop::runFor(const scenario::Decimal& seconds) {
+    const scenario::Decimal end = now_ + seconds;
     while (!waiting_.empty() && waiting_.begin()->first <= end) {
         now_ = waiting_.begin()->first;
         const auto message = std::move(waiting_.begin()->second);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/RunLoop.h"
-#include "simulated/Decimal.h"
+#include "scenario/Decimal.h"
 #include "simulated/Transcript.h"
 
 #include <functional>
@@ -18,12 +18,12 @@ public:
                                    platform::Seconds delay) override;
 
     /// Lets that many seconds pass and sends the messages that fall due, the very end included, in order.
-    void runFor(const Decimal& seconds);
+    void runFor(const scenario::Decimal& seconds);
 
 private:
     Transcript& transcript_;
-    Decimal now_;
-    std::multimap<Decimal, std::function<void()>> waiting_; ///< by the moment they fall due
+    scenario::Decimal now_;
+    std::multimap<scenario::Decimal, std::function<void()>> waiting_; ///< by the moment they fall due
 };
 
 } // namespace qbsp::simulated

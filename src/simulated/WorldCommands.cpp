@@ -1,27 +1,30 @@
 #include "simulated/WorldCommands.h"
 
+#include "scenario/CommandTable.h"
+#include "scenario/ScenarioError.h"
+#include "simulated/Arguments.h"
 #include "simulated/Json.h"
-#include "simulated/ScenarioError.h"
 #include "simulated/SimulatedView.h"
 
 #include <algorithm>
-#include <map>
+#include <array>
 
 namespace qbsp::simulated {
 
 namespace {
 
-using Reader = WorldChange (*)(Arguments& arguments);
+using scenario::ScenarioError;
+using scenario::Words;
 
 /// A command that sets one field of the world to what the reader takes.
 template <auto Field, auto Read>
-WorldChange setField(Arguments& arguments) {
+WorldChange setField(Words& arguments) {
     return [value = (arguments.*Read)()](World& world) {
         world.*Field = value;
     };
 }
 
-WorldChange readLoader(Arguments& arguments) {
+WorldChange readLoader(Words& arguments) {
     const std::string word = arguments.oneOf({"present", "empty", "absent"});
     const Loader loader = word == "present" ? Loader::present
                           : word == "empty" ? Loader::empty
@@ -31,7 +34,7 @@ WorldChange readLoader(Arguments& arguments) {
     };
 }
 
-WorldChange readTranslation(Arguments& arguments) {
+WorldChange readTranslation(Words& arguments) {
     const std::string key = arguments.text();
     const std::string text = arguments.text();
     return [=](World& world) {
@@ -39,25 +42,25 @@ WorldChange readTranslation(Arguments& arguments) {
     };
 }
 
-WorldChange readDefault(Arguments& arguments) {
+WorldChange readDefault(Words& arguments) {
     const std::string key = arguments.text();
-    const platform::Value value = arguments.value();
+    const platform::Value value = takeValue(arguments);
     return [=](World& world) {
         world.defaults.put(key, value);
     };
 }
 
-WorldChange readDomain(Arguments& arguments) {
-    const std::string identifier = arguments.identifier();
+WorldChange readDomain(Words& arguments) {
+    const std::string identifier = takeIdentifier(arguments);
     const std::string key = arguments.text();
-    const platform::Value value = arguments.value();
+    const platform::Value value = takeValue(arguments);
     return [=](World& world) {
         world.domains[identifier].put(key, value);
     };
 }
 
-WorldChange readRunning(Arguments& arguments) {
-    const std::string identifier = arguments.identifier();
+WorldChange readRunning(Words& arguments) {
+    const std::string identifier = takeIdentifier(arguments);
     if (arguments.boolean())
         return [=](World& world) {
             world.running.insert(identifier);
@@ -67,8 +70,8 @@ WorldChange readRunning(Arguments& arguments) {
     };
 }
 
-WorldChange readJobs(Arguments& arguments) {
-    const platform::Value value = arguments.value();
+WorldChange readJobs(Words& arguments) {
+    const platform::Value value = takeValue(arguments);
     if (!value.exists())
         return [](World& world) {
             world.jobs = std::nullopt;
@@ -87,7 +90,7 @@ WorldChange readJobs(Arguments& arguments) {
     };
 }
 
-WorldChange readLaunch(Arguments& arguments) {
+WorldChange readLaunch(Words& arguments) {
     const bool launches = arguments.oneOf({"app", "nothing"}) == "app";
     const auto error = arguments.atEnd() ? std::nullopt : std::optional(arguments.text());
     return [=](World& world) {
@@ -96,15 +99,15 @@ WorldChange readLaunch(Arguments& arguments) {
     };
 }
 
-WorldChange readFile(Arguments& arguments) {
+WorldChange readFile(Words& arguments) {
     return [path = arguments.text()](World& world) {
         world.disk.putFile(path);
     };
 }
 
-WorldChange readPlist(Arguments& arguments) {
+WorldChange readPlist(Words& arguments) {
     const std::string path = arguments.text();
-    const platform::Value value = arguments.value();
+    const platform::Value value = takeValue(arguments);
     if (value.as<platform::Dictionary>() == nullptr)
         throw ScenarioError("not a dictionary");
     return [=](World& world) {
@@ -112,13 +115,13 @@ WorldChange readPlist(Arguments& arguments) {
     };
 }
 
-WorldChange readRemove(Arguments& arguments) {
+WorldChange readRemove(Words& arguments) {
     return [path = arguments.text()](World& world) {
         world.disk.remove(path);
     };
 }
 
-WorldChange readColumns(Arguments& arguments) {
+WorldChange readColumns(Words& arguments) {
     std::vector<std::string> columns = {arguments.text()};
     while (!arguments.atEnd()) {
         columns.push_back(arguments.text());
@@ -130,7 +133,7 @@ WorldChange readColumns(Arguments& arguments) {
     };
 }
 
-WorldChange readDisconnect(Arguments& arguments) {
+WorldChange readDisconnect(Words& arguments) {
     const std::string field = arguments.text();
     if (std::ranges::find(controlFields(), field) == controlFields().end())
         throw ScenarioError("no control field: " + jsonText(field));
@@ -139,47 +142,57 @@ WorldChange readDisconnect(Arguments& arguments) {
     };
 }
 
-const std::map<std::string, Reader, std::less<>> readers = {
-    {"sandboxed", setField<&World::sandboxed, &Arguments::boolean>},
-    {"pro", setField<&World::pro, &Arguments::boolean>},
-    {"process", setField<&World::processName, &Arguments::text>},
-    {"main-bundle", setField<&World::mainBundle, &Arguments::text>},
-    {"base", setField<&World::baseAgrees, &Arguments::boolean>},
-    {"loader", readLoader},
-    {"registrar-executable", setField<&World::registrarExecutable, &Arguments::text>},
-    {"no-class-executable", setField<&World::noClassExecutable, &Arguments::textOrNull>},
-    {"registered", setField<&World::registered, &Arguments::boolean>},
-    {"registrar-adds", setField<&World::registrarAdds, &Arguments::boolean>},
-    {"registrar-removes", setField<&World::registrarRemoves, &Arguments::boolean>},
-    {"translation", readTranslation},
-    {"default", readDefault},
-    {"synchronizes", setField<&World::synchronizes, &Arguments::boolean>},
-    {"domain", readDomain},
-    {"running", readRunning},
-    {"jobs", readJobs},
-    {"launch-services", setField<&World::launchServicesStatus, &Arguments::signed32>},
-    {"launch", readLaunch},
-    {"terminates", setField<&World::terminates, &Arguments::boolean>},
-    {"container", setField<&World::container, &Arguments::textOrNull>},
-    {"file", readFile},
-    {"plist", readPlist},
-    {"remove", readRemove},
-    {"folder-error", setField<&World::folderError, &Arguments::textOrNull>},
-    {"writes", setField<&World::writes, &Arguments::boolean>},
-    {"alert", setField<&World::alertAnswer, &Arguments::signed64>},
-    {"columns", readColumns},
-    {"disconnect", readDisconnect},
+struct WorldCommand {
+    std::string_view name;
+    std::string_view arguments;
+    WorldChange (*read)(Words& arguments);
 };
+
+constexpr auto worldCommands = std::to_array<WorldCommand>({
+    {"sandboxed", "true|false", setField<&World::sandboxed, &Words::boolean>},
+    {"pro", "true|false", setField<&World::pro, &Words::boolean>},
+    {"process", "NAME", setField<&World::processName, &Words::text>},
+    {"main-bundle", "PATH", setField<&World::mainBundle, &Words::text>},
+    {"base", "true|false", setField<&World::baseAgrees, &Words::boolean>},
+    {"loader", "present|empty|absent", readLoader},
+    {"registrar-executable", "PATH", setField<&World::registrarExecutable, &Words::text>},
+    {"no-class-executable", "PATH|null", setField<&World::noClassExecutable, &Words::textOrNull>},
+    {"registered", "true|false", setField<&World::registered, &Words::boolean>},
+    {"registrar-adds", "true|false", setField<&World::registrarAdds, &Words::boolean>},
+    {"registrar-removes", "true|false", setField<&World::registrarRemoves, &Words::boolean>},
+    {"translation", "KEY TEXT", readTranslation},
+    {"default", "KEY VALUE", readDefault},
+    {"synchronizes", "true|false", setField<&World::synchronizes, &Words::boolean>},
+    {"domain", "ID KEY VALUE", readDomain},
+    {"running", "ID true|false", readRunning},
+    {"jobs", "VALUE", readJobs},
+    {"launch-services", "N", setField<&World::launchServicesStatus, &Words::signed32>},
+    {"launch", "app|nothing [ERROR]", readLaunch},
+    {"terminates", "true|false", setField<&World::terminates, &Words::boolean>},
+    {"container", "PATH|null", setField<&World::container, &Words::textOrNull>},
+    {"file", "PATH", readFile},
+    {"plist", "PATH VALUE", readPlist},
+    {"remove", "PATH", readRemove},
+    {"folder-error", "TEXT|null", setField<&World::folderError, &Words::textOrNull>},
+    {"writes", "true|false", setField<&World::writes, &Words::boolean>},
+    {"alert", "N", setField<&World::alertAnswer, &Words::signed64>},
+    {"columns", "NAME...", readColumns},
+    {"disconnect", "FIELD", readDisconnect},
+});
 
 } // namespace
 
-std::optional<WorldChange> readWorldCommand(const std::string& command, Arguments& arguments) {
-    const auto reader = readers.find(command);
-    if (reader == readers.end())
+std::optional<WorldChange> readWorldCommand(std::string_view name, Words& arguments) {
+    const auto* const command = scenario::findCommand(worldCommands, name);
+    if (command == nullptr)
         return std::nullopt;
-    auto change = reader->second(arguments);
+    auto change = command->read(arguments);
     arguments.finish();
     return change;
+}
+
+std::string worldCommandList() {
+    return scenario::commandList(worldCommands);
 }
 
 } // namespace qbsp::simulated

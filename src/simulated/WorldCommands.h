@@ -1,11 +1,12 @@
 #pragma once
 
-#include "simulated/Arguments.h"
+#include "scenario/Words.h"
 #include "simulated/World.h"
 
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace qbsp::simulated {
 
@@ -13,7 +14,10 @@ namespace qbsp::simulated {
 using WorldChange = std::function<void(World& world)>;
 
 /// Reads the arguments of the world command of that name; none when there is no such command. Throws
-/// ScenarioError for arguments that are malformed.
-[[nodiscard]] std::optional<WorldChange> readWorldCommand(const std::string& command, Arguments& arguments);
+/// scenario::ScenarioError for arguments that are malformed.
+[[nodiscard]] std::optional<WorldChange> readWorldCommand(std::string_view name, scenario::Words& arguments);
+
+/// How each world command is written, a line each.
+[[nodiscard]] std::string worldCommandList();
 
 } // namespace qbsp::simulated

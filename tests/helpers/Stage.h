@@ -78,7 +78,7 @@ public:
     }
 
     /// Lets the clock run on by so many seconds.
-    void wait(const char* seconds) { platform.runLoop.runFor(*simulated::Decimal::parse(seconds)); }
+    void wait(const char* seconds) { platform.runLoop.runFor(*scenario::Decimal::parse(seconds)); }
 
     /// What every connected control holds, by its field.
     [[nodiscard]] std::map<std::string, platform::Dictionary> controlContents() const {

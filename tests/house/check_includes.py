@@ -28,10 +28,11 @@ USES = {
     "hotkeys": ["platform", "pane", "settings"],
     "hidelist": ["platform", "pane", "settings"],
     "pane": ["platform", "hidelist", "settings", "sorter"],
-    "simulated": ["platform", "pane", "sorter"],
+    "scenario": [],
+    "simulated": ["platform", "pane", "scenario", "sorter"],
     "appkit": ["platform", "pane", "sorter"],
     "support": [],
-    "standins": [],
+    "standins": ["scenario"],
 }
 PORTABLE = {"platform", "sorter", "settings", "hotkeys", "hidelist", "pane"}
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s*([<"])([^>"]+)[>"]')

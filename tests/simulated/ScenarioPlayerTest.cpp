@@ -1,5 +1,6 @@
+#include "scenario/Lines.h"
+#include "scenario/ScenarioError.h"
 #include "simulated/Player.h"
-#include "simulated/ScenarioError.h"
 
 #include <gtest/gtest.h>
 
@@ -13,19 +14,26 @@ protected:
     std::string play(std::initializer_list<const char*> lines) {
         output.str("");
         for (const char* const line : lines)
-            player.play(line);
+            playLine(line);
         return output.str();
     }
 
     /// Expects that the line is refused with nothing of it printed.
     void expectRefused(const std::string& line) {
         output.str("");
-        EXPECT_THROW(player.play(line), ScenarioError) << line;
+        EXPECT_THROW(playLine(line), scenario::ScenarioError) << line;
         EXPECT_EQ(output.str(), "") << line;
     }
 
     std::ostringstream output;
     Player player{output};
+
+private:
+    void playLine(const std::string& line) {
+        scenario::Lines lines("a scenario", line);
+        while (const auto command = lines.nextCommand())
+            player.play(*command);
+    }
 };
 
 TEST_F(ScenarioPlayer, SkipsBlankLinesAndComments) {

@@ -1,6 +1,6 @@
 #include "stages/DialogsStage.h"
 
-#include "simulated/Json.h"
+#include "scenario/Words.h"
 #include "simulated/SimulatedPlatform.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ std::optional<std::string> textIn(const std::string& line) {
     if (!line.starts_with("NSAlert ") || start == std::string::npos)
         return std::nullopt;
     const std::string argument = line.substr(start + 1, line.rfind(')') - start - 1);
-    return *simulated::parseJson(argument).as<std::string>();
+    return scenario::Words(argument).text();
 }
 
 class SimulatedStage final : public DialogsStage {
@@ -32,7 +32,7 @@ public:
         for (int hundredths = 0; hundredths < 1000; ++hundredths) {
             if (condition())
                 return platform::Seconds(hundredths * 0.01);
-            platform_.runLoop.runFor(simulated::Decimal::of(0.01));
+            platform_.runLoop.runFor(scenario::Decimal::of(0.01));
             if (platform_.openPanels.sheetIsOpen())
                 platform_.openPanels.endSheet(choice_ ? platform::NSOKButton : 0, choice_);
         }

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-namespace qbsp::simulated {
+namespace qbsp::scenario {
 
-/// A decimal number that is not negative, exact in every digit: moments and delays of the simulated clock.
+/// A decimal number that is not negative, exact in every digit: moments and delays of a scenario's clock.
 class Decimal {
 public:
     Decimal() = default;
@@ -17,6 +17,9 @@ public:
 
     /// The number whose shortest decimal form the double is. It must be finite and not negative.
     [[nodiscard]] static Decimal of(double number);
+
+    /// The double nearest to it; infinite when it is too large for one.
+    [[nodiscard]] double toDouble() const;
 
     [[nodiscard]] Decimal operator+(const Decimal& other) const;
 
@@ -28,4 +31,4 @@ private:
     std::string fraction_; ///< digits without trailing zeros
 };
 
-} // namespace qbsp::simulated
+} // namespace qbsp::scenario

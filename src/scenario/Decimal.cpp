@@ -1,10 +1,11 @@
-#include "simulated/Decimal.h"
+#include "scenario/Decimal.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 
-namespace qbsp::simulated {
+namespace qbsp::scenario {
 
 namespace {
 
@@ -54,6 +55,13 @@ Decimal Decimal::of(double number) {
     return parse({buffer.data(), static_cast<std::size_t>(end - buffer.data())}).value();
 }
 
+double Decimal::toDouble() const {
+    const std::string digits = "0" + whole_ + "." + fraction_ + "0";
+    double number = std::numeric_limits<double>::infinity();
+    std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    return number;
+}
+
 Decimal Decimal::operator+(const Decimal& other) const {
     const auto wholeDigits = std::max(whole_.size(), other.whole_.size());
     const auto fractionDigits = std::max(fraction_.size(), other.fraction_.size());
@@ -76,4 +84,4 @@ std::strong_ordering operator<=>(const Decimal& first, const Decimal& second) {
     return first.fraction_ <=> second.fraction_;
 }
 
-} // namespace qbsp::simulated
+} // namespace qbsp::scenario
