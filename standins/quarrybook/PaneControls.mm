@@ -1,50 +1,67 @@
 #import "PaneControls.h"
 
-#include "ScenarioLine.h"
+#import "Strings.h"
+#include "scenario/Json.h"
 
 namespace quarrybook {
 
+using qbsp::scenario::jsonArray;
+using qbsp::scenario::jsonBoolean;
+using qbsp::scenario::jsonObject;
+using qbsp::scenario::jsonText;
+
 namespace {
 
-std::string json(bool value) {
-    return value ? "true" : "false";
-}
-
 std::string text(NSString* string) {
-    return quoted(string == nil ? "" : [string UTF8String]);
+    return jsonText(string == nil ? "" : [string UTF8String]);
 }
 
 std::string describeButton(NSButton* button) {
-    return "{\"enabled\": " + json([button isEnabled]) + ", \"hidden\": " + json([button isHidden]) +
-           ", \"state\": " + std::to_string([button state]) + ", \"title\": " + text([button title]) + "}";
+    return jsonObject({{"enabled", jsonBoolean([button isEnabled])},
+                       {"hidden", jsonBoolean([button isHidden])},
+                       {"state", std::to_string([button state])},
+                       {"title", text([button title])}});
 }
 
 std::string describeTextField(NSTextField* field) {
-    return "{\"hidden\": " + json([field isHidden]) + ", \"text\": " + text([field stringValue]) + "}";
+    return jsonObject({{"hidden", jsonBoolean([field isHidden])}, {"text", text([field stringValue])}});
 }
 
 std::string describeRecorder(NSView* recorder) {
-    const long code = [[recorder valueForKey:@"keyCode"] longValue];
-    const unsigned long flags = [[recorder valueForKey:@"flags"] unsignedLongValue];
-    return "{\"code\": " + std::to_string(code) + ", \"flags\": " + std::to_string(flags) +
-           ", \"hidden\": " + json([recorder isHidden]) + "}";
+    return jsonObject({{"code", std::to_string([[recorder valueForKey:@"keyCode"] longValue])},
+                       {"flags", std::to_string([[recorder valueForKey:@"flags"] unsignedLongValue])},
+                       {"hidden", jsonBoolean([recorder isHidden])}});
+}
+
+std::string describeTable(NSTableView* table) {
+    std::vector<std::string> columns;
+    for (NSUInteger index = 0; index < [[table tableColumns] count]; ++index) {
+        NSTableColumn* column = [[table tableColumns] objectAtIndex:index];
+        columns.push_back(jsonArray({text([column identifier]), text([[column headerCell] stringValue])}));
+    }
+    std::vector<std::string> selected;
+    if ([table selectedRow] >= 0)
+        selected.push_back(std::to_string([table selectedRow]));
+    return jsonObject({{"columns", jsonArray(columns)},
+                       {"rows", std::to_string([table numberOfRows])},
+                       {"selected", jsonArray(selected)}});
 }
 
 } // namespace
 
-const std::vector<std::string>& PaneControls::names() {
-    static const std::vector<std::string> all{
-        "clipHotKeyRecorder", "noteHotKeyRecorder", "showAtLoginCheckbox", "toggleLaunchButton",
-        "visibilityButton",   "availabilityLabel",  "visibilityLabel",     "descriptionLabel",
-        "takeNoteLabel",      "copySelectionLabel", "attentionLabel",      "resetFullscreenSettingsButton",
-        "hideAppsTable",      "hideAppLabel"};
-    return all;
+std::vector<std::string> PaneControls::names() const {
+    const SEL list = NSSelectorFromString(@"controlNames");
+    NSArray* all = [mainView_ respondsToSelector:list] ? [mainView_ performSelector:list] : nil;
+    std::vector<std::string> names;
+    for (NSUInteger index = 0; index < [all count]; ++index)
+        names.emplace_back([[all objectAtIndex:index] UTF8String]);
+    return names;
 }
 
 id PaneControls::named(const std::string& name) const {
     const SEL lookUp = NSSelectorFromString(@"controlNamed:");
-    NSString* key = [NSString stringWithUTF8String:name.c_str()];
-    return [mainView_ respondsToSelector:lookUp] ? [mainView_ performSelector:lookUp withObject:key] : nil;
+    return [mainView_ respondsToSelector:lookUp] ? [mainView_ performSelector:lookUp withObject:string(name)]
+                                                 : nil;
 }
 
 std::string PaneControls::description(const std::string& name) const {
@@ -56,18 +73,6 @@ std::string PaneControls::description(const std::string& name) const {
     if ([control isKindOfClass:[NSTableView class]])
         return describeTable(control);
     return control == nil ? "null" : describeRecorder(control);
-}
-
-std::string PaneControls::describeTable(NSTableView* table) {
-    std::string columns;
-    for (NSUInteger index = 0; index < [[table tableColumns] count]; ++index) {
-        NSTableColumn* column = [[table tableColumns] objectAtIndex:index];
-        columns += (index == 0 ? "[" : ", [") + text([column identifier]) + ", " +
-                   text([[column headerCell] stringValue]) + "]";
-    }
-    const NSInteger selected = [table selectedRow];
-    return "{\"columns\": [" + columns + "], \"rows\": " + std::to_string([table numberOfRows]) +
-           ", \"selected\": [" + (selected < 0 ? "" : std::to_string(selected)) + "]}";
 }
 
 std::string cellValue(NSTableView* table, NSTableColumn* column, NSInteger row) {

@@ -1,25 +1,25 @@
 #import "QBSPScenarioPlayer.h"
 
 #import "Commands.h"
+#include "scenario/Lines.h"
+#include "scenario/ScenarioError.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <unistd.h>
 #include <utility>
 
-using quarrybook::Argument;
-using quarrybook::Commands;
+using qbsp::scenario::Lines;
+using qbsp::scenario::ScenarioError;
 using quarrybook::Outcome;
-using quarrybook::ScenarioError;
-using quarrybook::ScenarioLine;
+using quarrybook::ReadCommand;
+using quarrybook::Scene;
 
 namespace {
 
 struct Scenario {
-    std::string file;
-    std::vector<ScenarioLine> lines;
-    Commands commands;
-    std::size_t next = 0;
+    Lines lines;
+    Scene scene;
     double resumeAt = 0;
     double giveUpAt = 0;
     std::function<bool()> condition = nullptr;
@@ -62,8 +62,8 @@ void QBSPQuitWithStatus(int status) {
 - (void)playNextIfReady;
 - (BOOL)isReady;
 - (void)playNext;
-- (void)stopAt:(int)line because:(const char*)problem;
-- (void)play:(const std::string&)line;
+- (void)stopBecause:(const char*)problem;
+- (void)play:(std::string_view)line;
 - (void)finish;
 @end
 
@@ -74,13 +74,13 @@ void QBSPQuitWithStatus(int status) {
             runner:(QBSPPaneRunner*)runner {
     if ((self = [super init]) == nil)
         return nil;
-    try {
-        playing = new Scenario{path, quarrybook::readScenario(path), Commands(preferences, runner)};
-    } catch (const ScenarioError& error) {
-        std::fprintf(stderr, "%s: %s\n", path, error.what());
+    const auto text = qbsp::scenario::contentsOf(path);
+    if (!text) {
+        std::fprintf(stderr, "%s: cannot be read\n", path);
         [self release];
         return nil;
     }
+    playing = new Scenario{Lines(path, *text), Scene(preferences, runner)};
     return self;
 }
 
@@ -121,12 +121,11 @@ void QBSPQuitWithStatus(int status) {
 }
 
 - (void)playNextIfReady {
-    Scenario& scenario = scenarioAt(playing);
     try {
         if ([self isReady])
             [self playNext];
     } catch (const ScenarioError& error) {
-        [self stopAt:scenario.lines[scenario.next - 1].number because:error.what()];
+        [self stopBecause:error.what()];
     }
 }
 
@@ -142,29 +141,26 @@ void QBSPQuitWithStatus(int status) {
 }
 
 - (void)playNext {
-    Scenario& scenario = scenarioAt(playing);
-    if (scenario.next == scenario.lines.size())
-        [self finish];
+    if (const auto command = scenarioAt(playing).lines.nextCommand())
+        [self play:*command];
     else
-        [self play:scenario.lines[scenario.next++].text];
+        [self finish];
 }
 
-- (void)stopAt:(int)line because:(const char*)problem {
-    Scenario& scenario = scenarioAt(playing);
-    std::fprintf(stderr, "%s:%d: %s\n", scenario.file.c_str(), line, problem);
+- (void)stopBecause:(const char*)problem {
+    std::fprintf(stderr, "%s: %s\n", scenarioAt(playing).lines.place().c_str(), problem);
     [timer invalidate];
     timer = nil;
     QBSPQuitWithStatus(2);
 }
 
-- (void)play:(const std::string&)line {
+- (void)play:(std::string_view)line {
     Scenario& scenario = scenarioAt(playing);
-    const std::vector<Argument> words = quarrybook::split(line);
-    scenario.commands.check(words);
-    if (!Commands::speaksForItself(words))
-        printLine("> " + line);
-    Outcome outcome = scenario.commands.perform(words);
-    for (const std::string& answer : outcome.answer)
+    const ReadCommand command = quarrybook::readCommand(line, scenario.scene);
+    if (command.echo == quarrybook::Echo::shown)
+        printLine("> " + std::string(line));
+    Outcome outcome = command.action();
+    for (const std::string& answer : outcome.lines)
         printLine(answer);
     scenario.resumeAt = [NSDate timeIntervalSinceReferenceDate] + outcome.pause;
     scenario.giveUpAt = [NSDate timeIntervalSinceReferenceDate] + longestWait;

@@ -1,10 +1,19 @@
-#import "Commands.h"
+#import "WindowCommands.h"
 
-#import "CommandParts.h"
 #import "Picture.h"
+#import "Strings.h"
 #import "UserInput.h"
+#include "scenario/Json.h"
+#include "scenario/ScenarioError.h"
+
+#include <array>
+#include <cstdint>
 
 namespace quarrybook {
+
+using qbsp::scenario::jsonText;
+using qbsp::scenario::ScenarioError;
+using qbsp::scenario::Words;
 
 namespace {
 
@@ -15,6 +24,23 @@ template <class View, class Matches> View* findView(NSView* view, Matches matche
         if (View* found = findView<View>([[view subviews] objectAtIndex:index], matches))
             return found;
     return nil;
+}
+
+#pragma mark - Windows
+
+Outcome press(const Scene& scene, const std::string& title) {
+    NSButton* titled = findView<NSButton>([scene.frontWindow() contentView], [&](NSButton* candidate) {
+        return [[candidate title] isEqual:string(title)] && [candidate isEnabled];
+    });
+    if (titled == nil)
+        throw ScenarioError("no button to press: " + jsonText(title));
+    pressButton(titled);
+    return after(timeForWindows);
+}
+
+Action readPress(Words& arguments, const Scene& scene) {
+    const std::string title = arguments.text();
+    return [=, &scene] { return press(scene, title); };
 }
 
 bool chooseInLastColumn(NSBrowser* browser, NSString* path) {
@@ -28,68 +54,89 @@ bool chooseInLastColumn(NSBrowser* browser, NSString* path) {
     return false;
 }
 
-} // namespace
-
-#pragma mark - The window and what stands before it
-
-Outcome Commands::press(const Arguments& arguments) {
-    NSWindow* modalWindow = [NSApp modalWindow];
-    NSWindow* window = modalWindow == nil ? [preferences_ window] : modalWindow;
-    NSButton* titled = findView<NSButton>([window contentView], [&](NSButton* candidate) {
-        return [[candidate title] isEqual:string(arguments[0].text)] && [candidate isEnabled];
-    });
-    if (titled == nil)
-        throw ScenarioError("there is no button '" + arguments[0].text + "' to press");
-    pressButton(titled);
-    return after(timeForWindows);
-}
-
-Outcome Commands::choose(const Arguments& arguments) {
+Outcome choose(const std::string& file) {
     NSWindow* panel = [NSApp modalWindow];
     NSBrowser* browser = findView<NSBrowser>([panel contentView], [](NSBrowser*) { return true; });
     if (browser == nil)
         throw ScenarioError("there is no panel to choose in");
-    NSString* path = string(arguments[0].text);
+    NSString* path = string(file);
     if (![browser setPath:[path stringByDeletingLastPathComponent]] || !chooseInLastColumn(browser, path))
-        throw ScenarioError("the panel does not show '" + arguments[0].text + "'");
+        throw ScenarioError("the panel does not show " + jsonText(file));
     return after(timeForWindows);
 }
 
-Outcome Commands::say(const Arguments& arguments) {
-    return {.answer = {"", arguments[0].text}, .pause = 0, .condition = {}};
+Action readChoose(Words& arguments, const Scene&) {
+    const std::string file = arguments.text();
+    return [=] { return choose(file); };
 }
 
-Outcome Commands::wait(const Arguments& arguments) {
-    return after(seconds(arguments[0]));
+Action readResize(Words& arguments, const Scene& scene) {
+    const std::int32_t width = arguments.signed32();
+    const std::int32_t height = arguments.signed32();
+    return [=, &scene] {
+        [[scene.preferences() window] setContentSize:NSMakeSize(width, height)];
+        return after(timeForWindows);
+    };
 }
 
-Outcome Commands::until(const Arguments& arguments) {
-    id control = controls().named(arguments[0].text);
-    const std::string wanted = arguments[1].text;
-    if (![control isKindOfClass:[NSControl class]])
-        throw ScenarioError("there is no control '" + arguments[0].text + "'");
+Action readPicture(Words& arguments, const Scene& scene) {
+    const std::string file = arguments.text();
+    return [=, &scene] {
+        if (!writePicture(scene.frontWindow(), file))
+            throw ScenarioError("cannot write " + jsonText(file));
+        return Outcome{};
+    };
+}
+
+Outcome close(const Scene& scene) {
+    [[scene.preferences() window] performClose:nil];
+    return {};
+}
+
+#pragma mark - The course of the scenario
+
+Action readSay(Words& arguments, const Scene&) {
+    const std::string text = arguments.text();
+    return [=] { return Outcome{.lines = {"", text}, .pause = 0, .condition = {}}; };
+}
+
+Action readWait(Words& arguments, const Scene&) {
+    const double seconds = arguments.seconds().toDouble();
+    return [=] { return after(seconds); };
+}
+
+Outcome until(id control, const std::string& text) {
     const bool hasTitle = [control isKindOfClass:[NSButton class]];
-    return {.answer = {}, .pause = 0, .condition = [=] {
-                return [hasTitle ? [control title] : [control stringValue] isEqual:string(wanted)] == YES;
+    return {.lines = {}, .pause = 0, .condition = [=] {
+                return [hasTitle ? [control title] : [control stringValue] isEqual:string(text)] == YES;
             }};
 }
 
-Outcome Commands::resize(const Arguments& arguments) {
-    [[preferences_ window] setContentSize:NSMakeSize(static_cast<CGFloat>(wholeNumber(arguments[0])),
-                                                     static_cast<CGFloat>(wholeNumber(arguments[1])))];
-    return after(timeForWindows);
+Action readUntil(Words& arguments, const Scene& scene) {
+    const std::string name = arguments.text();
+    const std::string text = arguments.text();
+    return [=, &scene] {
+        id control = scene.controls().named(name);
+        if (![control isKindOfClass:[NSControl class]])
+            throw ScenarioError("no control: " + jsonText(name));
+        return until(control, text);
+    };
 }
 
-Outcome Commands::picture(const Arguments& arguments) {
-    NSWindow* modalWindow = [NSApp modalWindow];
-    if (!writePicture(modalWindow == nil ? [preferences_ window] : modalWindow, arguments[0].text))
-        throw ScenarioError("'" + arguments[0].text + "' could not be written");
-    return {};
-}
+} // namespace
 
-Outcome Commands::close(const Arguments&) {
-    [[preferences_ window] performClose:nil];
-    return {};
+std::span<const Command> windowCommands() {
+    static constexpr auto all = std::to_array<Command>({
+        {"press", "TITLE", readPress},
+        {"choose", "PATH", readChoose},
+        {"resize", "WIDTH HEIGHT", readResize},
+        {"picture", "FILE", readPicture},
+        {"close", "", readNothing<close>},
+        {"say", "TEXT", readSay, Echo::hidden},
+        {"wait", "SECONDS", readWait},
+        {"until", "FIELD TEXT", readUntil},
+    });
+    return all;
 }
 
 } // namespace quarrybook

@@ -1,3 +1,4 @@
+#import "Commands.h"
 #include "Options.h"
 #import "QBSPHostApplication.h"
 #import "QBSPHostDelegate.h"
@@ -43,7 +44,8 @@ int main(int count, char** words, char** environment) {
     }
     const auto& options = std::get<Options>(parsed);
     if (options.help) {
-        std::fputs(quarrybook::usage().c_str(), stdout);
+        const std::string help = quarrybook::usage() + "\nHost commands:\n" + quarrybook::commandList();
+        std::fputs(help.c_str(), stdout);
         return 0;
     }
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];

@@ -1,8 +1,11 @@
 """The stand-in host's command line and its scenarios: what is wrong is told in one line, with status 2."""
 
+import subprocess
 import unittest
 
 from session import BUILD, QUARRYBOOK, Session
+
+PANE_REPLAY = BUILD / "bin/pane-replay"
 
 
 class HostTest(unittest.TestCase):
@@ -40,10 +43,25 @@ class HostTest(unittest.TestCase):
                 self.assert_refused(played, f"{path}:3: ")
                 self.assertNotIn("> rows", played.stdout.splitlines()[1:] if line == "rows 1" else played.stdout)
 
-    def test_shows_its_options(self):
+    def test_refuses_malformed_words_as_the_player_of_the_simulated_platform_does(self):
+        for line in ('find "\\ud83d\\u0041"', 'find "\\x41"', 'find "open', "find", "find a b", '"find" a',
+                     "change clip 12345678901234567890 0", "change clip 0 -1", "value 1 4294967296", "wait 1e3",
+                     "create\t"):
+            with self.subTest(line=line):
+                path = self.session.scenario("create", line)
+                expected = subprocess.run([PANE_REPLAY, path], capture_output=True, text=True, check=False).stderr
+
+                played = self.session.run(QUARRYBOOK, "--play", path)
+
+                self.assert_refused(played, f"{path}:2: ")
+                self.assertEqual(played.stderr, expected)
+                self.assertEqual(played.stdout, "> create\n= true\n")
+
+    def test_shows_its_options_and_commands(self):
         run = self.session.run(QUARRYBOOK, "--help")
         self.assertEqual(run.returncode, 0)
-        self.assertIn("--sandboxed", run.stdout)
+        self.assertIn("  --sandboxed  ", run.stdout)
+        self.assertIn("\n  until FIELD TEXT\n", run.stdout)
 
     def test_takes_a_picture_and_quits(self):
         picture = self.session.folder / "picture.png"

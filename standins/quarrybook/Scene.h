@@ -1,0 +1,44 @@
+#pragma once
+
+#import "PaneControls.h"
+#import "QBSPPreferencesWindow.h"
+
+#include <cstdint>
+#include <string>
+
+namespace quarrybook {
+
+/// What the commands of a scenario work on: the preferences window and the pane in it. Everything that is
+/// looked for and not there, or hidden, throws qbsp::scenario::ScenarioError.
+class Scene {
+  public:
+    /// Both must outlive the scene.
+    Scene(QBSPPreferencesWindow* preferences, QBSPPaneRunner* runner)
+        : preferences_(preferences), runner_(runner) {}
+
+    [[nodiscard]] QBSPPreferencesWindow* preferences() const { return preferences_; }
+
+    [[nodiscard]] QBSPPaneRunner* runner() const { return runner_; }
+
+    /// The modal window where there is one, else the preferences window.
+    [[nodiscard]] NSWindow* frontWindow() const;
+
+    [[nodiscard]] PaneControls controls() const;
+
+    /// The button in the pane with that field name.
+    [[nodiscard]] NSButton* button(const std::string& field) const;
+
+    /// The recorder that a scenario calls clip or note.
+    [[nodiscard]] NSView* recorder(const std::string& which) const;
+
+    [[nodiscard]] NSTableColumn* column(const std::string& identifier) const;
+
+    /// The row, when the table has it.
+    [[nodiscard]] NSInteger row(std::int32_t number) const;
+
+  private:
+    QBSPPreferencesWindow* preferences_;
+    QBSPPaneRunner* runner_;
+};
+
+} // namespace quarrybook
