@@ -21,7 +21,7 @@ class StringComparison;
 class UserDefaults;
 class Workspace;
 
-/// Every service that the pane asks, bundled once. Whoever makes the pane owns them and keeps them as long.
+/// Every service that the pane asks, bundled once. The owner of the services keeps them as long as the pane.
 struct Services {
     Host& host;
     ProcessInfo& processInfo;
@@ -42,5 +42,29 @@ struct Services {
     Alerts& alerts;
     OpenPanels& openPanels;
 };
+
+/// The services of a platform, which has each as a member of that name. A test replaces one by deriving from
+/// a platform and declaring a member of the same name.
+template <class Platform>
+[[nodiscard]] Services servicesOf(Platform& platform) {
+    return {.host = platform.host,
+            .processInfo = platform.processInfo,
+            .runtime = platform.runtime,
+            .bundles = platform.bundles,
+            .log = platform.log,
+            .runLoop = platform.runLoop,
+            .strings = platform.strings,
+            .userDefaults = platform.userDefaults,
+            .preferences = platform.preferences,
+            .notifications = platform.notifications,
+            .workspace = platform.workspace,
+            .runningApplications = platform.runningApplications,
+            .launchServices = platform.launchServices,
+            .serviceManagement = platform.serviceManagement,
+            .files = platform.files,
+            .propertyLists = platform.propertyLists,
+            .alerts = platform.alerts,
+            .openPanels = platform.openPanels};
+}
 
 } // namespace qbsp::platform

@@ -12,18 +12,26 @@
 
 namespace qbsp::simulated {
 
-class SimulatedHost final : public platform::Host, public platform::ProcessInfo {
+class SimulatedHost final : public platform::Host {
 public:
     SimulatedHost(const World& world, Transcript& transcript) : world_(world), transcript_(transcript) {}
 
     bool isSandboxed() const override;
     bool isPro() const override;
 
+private:
+    const World& world_;
+    Transcript& transcript_;
+};
+
+class SimulatedProcessInfo final : public platform::ProcessInfo {
+public:
+    explicit SimulatedProcessInfo(const World& world) : world_(world) {}
+
     std::string processName() const override { return world_.processName; }
 
 private:
     const World& world_;
-    Transcript& transcript_;
 };
 
 class SimulatedRegistrar final : public QBSPSorterControl {

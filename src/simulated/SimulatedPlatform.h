@@ -13,15 +13,16 @@
 
 namespace qbsp::simulated {
 
-/// A whole platform in memory: it answers what the world says, remembers what it is given, and writes down
-/// everything it is asked. Nothing reaches the machine it runs on.
+/// A whole platform in memory: it returns what the world says, remembers what it is given, and records every
+/// operation. Nothing reaches the machine it runs on.
 struct SimulatedPlatform {
     /// The platform as the pane sees it. It must outlive the pane.
-    [[nodiscard]] platform::Services services();
+    [[nodiscard]] platform::Services services() { return platform::servicesOf(*this); }
 
     World world;
     Transcript transcript;
     SimulatedHost host{world, transcript};
+    SimulatedProcessInfo processInfo{world};
     SimulatedRuntime runtime{world, transcript};
     SimulatedBundles bundles{world, transcript};
     SimulatedLog log{transcript};

@@ -1,38 +1,28 @@
-#include "PaneTest.h"
+#include "Stage.h"
 #include "Watched.h"
+
+#include <gtest/gtest.h>
 
 namespace qbsp {
 
+/// A platform whose posts and log lines a test looks at.
+struct WatchedPlatform : simulated::SimulatedPlatform {
+    WatchedCenter notifications;
+    WatchedLog log;
+};
+
 /// A pane whose flags are looked at while it asks the platform for something.
-class FlagTiming : public PaneTest {
+class FlagTiming : public testing::Test {
 protected:
     FlagTiming() {
-        storeHideList(full, platform::Dictionary{{"Mail", false}});
+        world.domains[full].put(hideListKey, platform::Dictionary{{"Mail", false}});
         world.running.insert(full);
-        watched = QBSPPreferencePane::initWithBundle(services(), base);
+        watched = QBSPPreferencePane::initWithBundle(platform::servicesOf(platform), base);
         watched->controls.hideAppsTable = platform::Outlet<platform::TableView>(&table);
     }
 
-    platform::Services services() {
-        platform::Services all = platform.services();
-        return {.host = all.host,
-                .processInfo = all.processInfo,
-                .runtime = all.runtime,
-                .bundles = all.bundles,
-                .log = log,
-                .runLoop = all.runLoop,
-                .strings = all.strings,
-                .userDefaults = all.userDefaults,
-                .preferences = all.preferences,
-                .notifications = center,
-                .workspace = all.workspace,
-                .runningApplications = all.runningApplications,
-                .launchServices = all.launchServices,
-                .serviceManagement = all.serviceManagement,
-                .files = all.files,
-                .propertyLists = all.propertyLists,
-                .alerts = all.alerts,
-                .openPanels = all.openPanels};
+    void TearDown() override {
+        EXPECT_EQ(platform.preferences.openSuites(), 0U) << "a suite was added and not removed";
     }
 
     /// Shows the pane on its list and changes that and a hot key.
@@ -44,11 +34,13 @@ protected:
         watched->enableAttentionLabel(nullptr);
     }
 
+    WatchedPlatform platform;
+    simulated::World& world = platform.world;
+    WatchedCenter& center = platform.notifications;
+    WatchedLog& log = platform.log;
     simulated::ControlRecord record{"column", platform.transcript};
     simulated::SimulatedPaneBase base{world, platform.transcript};
-    WatchedCenter center;
     WatchedTable table;
-    WatchedLog log;
     WatchedRegistrar registrar;
     std::shared_ptr<QBSPPreferencePane> watched;
     int calls = 0;

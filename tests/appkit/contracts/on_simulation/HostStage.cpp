@@ -12,7 +12,7 @@ public:
 
     platform::Host& host() override { return platform_.host; }
 
-    platform::ProcessInfo& processInfo() override { return platform_.host; }
+    platform::ProcessInfo& processInfo() override { return platform_.processInfo; }
 
     platform::Log& log() override { return platform_.log; }
 
