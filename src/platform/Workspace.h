@@ -10,17 +10,20 @@
 
 namespace qbsp::platform {
 
-/// What a notification tells.
+/// A notification, as far as the pane reads it.
 struct Notification {
     Dictionary userInfo;
 };
 
-/// Hears of applications that terminated.
+/// The entry in a termination's user information that holds the application's bundle identifier.
+inline constexpr const char* NSApplicationBundleIdentifier = "NSApplicationBundleIdentifier";
+
+/// Is notified of applications that terminated.
 class TerminationObserver {
 public:
     virtual ~TerminationObserver() = default;
 
-    /// An application terminated; "NSApplicationBundleIdentifier" in the user information says which.
+    /// An application terminated: the one that NSApplicationBundleIdentifier in the user information names.
     virtual void appDied(const Notification& notification) = 0;
 };
 
@@ -33,7 +36,7 @@ public:
     [[nodiscard]] virtual bool terminate() = 0;
 };
 
-/// What a launch came to. A launch may answer an application, an error, both or neither.
+/// The result of a launch: an application, an error, both or neither.
 struct LaunchResult {
     std::shared_ptr<RunningApplication> application;
     std::optional<std::string> error; ///< the error's description
@@ -41,7 +44,7 @@ struct LaunchResult {
 
 enum class LaunchOptions : unsigned { withoutActivation = 512 };
 
-/// The user's workspace: launching applications and hearing of their end.
+/// The user's workspace: launches applications and reports when one terminates.
 class Workspace {
 public:
     virtual ~Workspace() = default;

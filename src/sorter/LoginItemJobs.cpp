@@ -1,5 +1,7 @@
 #include "sorter/LoginItemJobs.h"
 
+#include "platform/ServiceManagement.h"
+
 #include <algorithm>
 
 namespace qbsp {
@@ -7,7 +9,7 @@ namespace qbsp {
 namespace {
 
 bool isLabelled(const platform::Dictionary& job, platform::BundleIdentifier label) {
-    const auto text = platform::stringEntry(job, "Label");
+    const auto text = platform::stringEntry(job, platform::jobLabelEntry);
     return text == label.text;
 }
 
@@ -19,7 +21,7 @@ bool jobIsOnDemand(const std::vector<platform::Dictionary>& jobs, platform::Bund
         std::ranges::find_if(jobs, [label](const auto& candidate) { return isLabelled(candidate, label); });
     if (job == jobs.end())
         return false;
-    return platform::entry(*job, "OnDemand").boolValue();
+    return platform::entry(*job, platform::jobOnDemandEntry).boolValue();
 }
 
 } // namespace qbsp

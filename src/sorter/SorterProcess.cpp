@@ -61,7 +61,7 @@ void QBSPPreferencePane::updateToggleButtonTitle() {
 void QBSPPreferencePane::appDied(const platform::Notification& notification) {
     // The edition's Sorter in both builds: the sandboxed build's embedded Sorter ends when its login item is
     // switched off, and the click that did that has scheduled the refresh.
-    const auto died = platform::stringEntry(notification.userInfo, "NSApplicationBundleIdentifier");
+    const auto died = platform::stringEntry(notification.userInfo, platform::NSApplicationBundleIdentifier);
     if (died == editionSorter().bundleIdentifier.text)
         updateToggleButtonTitle();
 }
