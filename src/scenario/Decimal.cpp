@@ -56,10 +56,12 @@ Decimal Decimal::of(double number) {
 }
 
 double Decimal::toDouble() const {
-    const std::string digits = "0" + whole_ + "." + fraction_ + "0";
-    double number = std::numeric_limits<double>::infinity();
-    std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    return number;
+    const std::string text = "0" + whole_ + "." + fraction_ + "0";
+    const std::string_view digits = text;
+    double number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    const bool isTooLarge = error != std::errc() && !whole_.empty();
+    return isTooLarge ? std::numeric_limits<double>::infinity() : number;
 }
 
 Decimal Decimal::operator+(const Decimal& other) const {

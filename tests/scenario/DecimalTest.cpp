@@ -48,6 +48,7 @@ TEST(Decimal, IsNearestToADouble) {
     EXPECT_EQ(decimal("0").toDouble(), 0.0);
     EXPECT_EQ(decimal("0.75").toDouble(), 0.75);
     EXPECT_EQ(decimal("12").toDouble(), 12.0);
+    EXPECT_EQ(decimal(("0." + std::string(400, '0') + "1").c_str()).toDouble(), 0.0);
     EXPECT_EQ(decimal(std::string(400, '9').c_str()).toDouble(), std::numeric_limits<double>::infinity());
 }
 
