@@ -1,4 +1,4 @@
-"""A host that a test accompanies while it plays, and Sorters beside it: real processes in a test's own session."""
+"""Sorters beside a host: real processes in a test's own session."""
 
 import os
 import pathlib
@@ -6,7 +6,9 @@ import pwd
 import subprocess
 import unittest
 
-from session import BUILD, QUARRYBOOK, SOLO_SORTER, SORTER, Session, wait_until
+from controls import Controls
+from host import Host
+from session import BUILD, SOLO_SORTER, SORTER, Session, wait_until
 
 EMBEDDED_SORTER = "Z3K8WQ4N7P.quarry2.QuarrybookSorter"
 HOST_BUNDLE = BUILD / "bin/Quarrybook.app"
@@ -29,31 +31,8 @@ def program_of(identifier):
 
 
 def hot_key(code, modifiers):
-    """How a Sorter tells of the "Take Note" hot key that it read."""
+    """How a Sorter writes the "Take Note" hot key that it read."""
     return f"Sorter.NoteHotKeyCode={code} Sorter.NoteHotKeyModifiers={modifiers}"
-
-
-class Host:
-    """A host in the middle of its scenario. What it prints goes to a file, which a Sorter that outlives it may keep."""
-
-    def __init__(self, session, *command):
-        self.output = session.folder / f"host{len(list(session.folder.glob('host*')))}"
-        with open(self.output, "w") as output:
-            self.process = subprocess.Popen([str(word) for word in command], env=session.environment, stdout=output,
-                                            stderr=subprocess.STDOUT)
-
-    def lines(self):
-        return self.output.read_text().splitlines()
-
-    def reach(self, line):
-        wait_until(lambda: f"> {line}" in self.lines() or self.process.poll(), f"'{line}'")
-        assert f"> {line}" in self.lines(), self.output.read_text()
-
-    def finish(self):
-        """Waits for the end of the scenario; answers the lines. Fails unless it was played to the end."""
-        wait_until(lambda: self.process.poll() is not None, "the end of the host")
-        assert self.process.returncode == 0, self.output.read_text()
-        return self.lines()
 
 
 class SorterTest(unittest.TestCase):
@@ -63,9 +42,10 @@ class SorterTest(unittest.TestCase):
         before = files_outside()
         self.addCleanup(lambda: self.assertEqual(files_outside(), before))
         self.session = self.enterContext(Session())
+        self.controls = Controls(self.session, "clipHotKeyRecorder", "noteHotKeyRecorder", "toggleLaunchButton")
 
     def each_build(self, builds=BUILDS):
-        """Options of the host and the identifier of its Sorter, for each build."""
+        """The host's options and the identifier of its Sorter, for each build."""
         for options, identifier in builds:
             with self.subTest(options=options):
                 self.log_file().unlink(missing_ok=True)
@@ -74,14 +54,15 @@ class SorterTest(unittest.TestCase):
     # --- Processes
 
     def play(self, *lines, options=()):
-        """Plays the lines to the end; Sorters that it started go on."""
+        """Plays the lines to the end; returns what the host printed. Sorters that it started go on."""
         return self.begin(*lines, options=options).finish()
 
     def begin(self, *lines, options=()):
-        return Host(self.session, QUARRYBOOK, *options, "--play", self.session.scenario(*lines))
+        """Starts a host that plays the lines, and whose controls can be found."""
+        return Host.playing(self.session, *lines, options=[*options, *self.controls.options])
 
     def start_by_hand(self, identifier, **environment):
-        """Starts that Sorter as a user would; answers when it listens."""
+        """Starts that Sorter as a user would; returns its process once it listens."""
         before = self.log().count(f"started {identifier}")
         process = subprocess.Popen([program_of(identifier)], env=self.session.environment | environment,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -93,16 +74,17 @@ class SorterTest(unittest.TestCase):
     def wait_for_start(self, identifier, times=1):
         """Waits until that Sorter was started so many times, and all that were started have come to listen."""
         wait_until(lambda: self.log().count(f"started {identifier}") == times
-                   and len(self.told("settings")) == len(self.told("started")), f"the start of {identifier}")
+                   and len(self.logged("settings")) == len(self.logged("started")),
+                   f"{identifier} to have started {times} times", self.printed_log)
 
     def sorters(self, identifier):
         """The numbers of the processes that run that Sorter."""
         return [process for process in self.session.living() if executable_of(process) == str(program_of(identifier))]
 
     def wait_for_end(self, identifier):
-        wait_until(lambda: not self.sorters(identifier), f"the end of {identifier}")
+        wait_until(lambda: not self.sorters(identifier), f"the end of {identifier}", lambda: self.sorters(identifier))
 
-    # --- What the Sorters tell
+    # --- What the Sorters log
 
     def log_file(self):
         return self.session.home / ".local/state/quarrybook/sorter.log"
@@ -110,15 +92,17 @@ class SorterTest(unittest.TestCase):
     def log(self):
         return self.log_file().read_text().splitlines() if self.log_file().exists() else []
 
-    def told(self, name):
+    def printed_log(self):
+        return "\n".join(["the log:", *self.log()])
+
+    def logged(self, name):
+        """The lines of that name."""
         return [line for line in self.log() if line.startswith(f"{name} ")]
 
-    def wait_told(self, name, *parts):
+    def wait_logged(self, name, *parts):
         """Waits until a line of that name holds all the parts."""
-        try:
-            wait_until(lambda: any(all(part in line for part in parts) for line in self.told(name)), name)
-        except AssertionError as error:
-            raise AssertionError("\n".join([f"{error}, with {parts}; the log:", *self.log()])) from error
+        wait_until(lambda: any(all(part in line for part in parts) for line in self.logged(name)),
+                   f"a line {name} with {parts}", self.printed_log)
 
 
 def executable_of(process):

@@ -16,19 +16,46 @@ PANE = BUILD / "SorterPane.prefPane"
 SORTER = "com.quarrybook.Sorter"
 SOLO_SORTER = "com.quarrybook.SoloSorter"
 HIDE_LIST = "UserSpecifiedFullScreenApplications"
-LIMIT = 20
+LIMIT = 20  # seconds
+ATTEMPT = 2  # seconds in which a click or a key that was not lost has its effect
+TIME_BETWEEN_LOOKS = 0.02
 WINDOW_MANAGER = pathlib.Path(__file__).resolve().parents[2] / "scripts/openbox.xml"
 
 
-def wait_until(condition, what):
-    """Answers the first true value of the condition; fails when none comes in time."""
+def wait_until(condition, what, seen=None):
+    """Returns the first true value of the condition, which is in words: `what`.
+
+    Fails when none comes in time, and says what was awaited and what there was last: what `seen` returns.
+    """
+    return value_within(LIMIT, condition) or fail(what, seen)
+
+
+def act_until(act, effect, what, seen=None):
+    """Acts until that has the effect, again when an act is lost. An act returns false when it could not be done yet.
+
+    Returns and fails as wait_until() does.
+    """
     deadline = time.monotonic() + LIMIT
     while time.monotonic() < deadline:
-        value = condition()
+        value = value_within(ATTEMPT if act() else 0, effect)
         if value:
             return value
-        time.sleep(0.02)
-    raise AssertionError(f"{what} did not come about")
+    return fail(what, seen)
+
+
+def value_within(seconds, condition):
+    """The first true value of the condition, else the last."""
+    deadline = time.monotonic() + seconds
+    while True:
+        value = condition()
+        if value or time.monotonic() > deadline:
+            return value
+        time.sleep(TIME_BETWEEN_LOOKS)
+
+
+def fail(what, seen):
+    there_was = f"; last there was {seen()}" if seen else ""
+    raise AssertionError(f"waited {LIMIT} s in vain for {what}{there_was}")
 
 
 class Session:
@@ -93,7 +120,7 @@ class Session:
             self.environment["DISPLAY"] = ":" + numbers.readline().strip()
         self.manager = subprocess.Popen(["openbox", "--config-file", WINDOW_MANAGER], env=self.environment,
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until(self._has_window_manager, "the window manager")
+        wait_until(self._has_window_manager, "the window manager", lambda: f"status {self.manager.poll()}")
 
     def _has_window_manager(self):
         root = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.environment,
@@ -101,10 +128,6 @@ class Session:
         return "window id" in root.stdout
 
     # --- Programs
-
-    def start(self, *command):
-        return subprocess.Popen([str(word) for word in command], env=self.environment, text=True,
-                                stdout=subprocess.PIPE, stderr=subprocess.PIPE)
 
     def run(self, *command):
         return subprocess.run([str(word) for word in command], env=self.environment, text=True,
@@ -116,7 +139,7 @@ class Session:
         return path
 
     def play(self, *lines, options=()):
-        """Plays the lines in the host; answers what it printed. Fails unless it was played to the end."""
+        """Plays the lines in the host; returns what it printed. Fails unless it was played to the end."""
         played = self.run(QUARRYBOOK, *options, "--play", self.scenario(*lines))
         assert played.returncode == 0, played.stdout + played.stderr
         return played.stdout
@@ -153,8 +176,8 @@ class Session:
         return [process for process in self.living() if read_process_file(process, "comm").strip() == name]
 
     def end(self):
-        # What is being started at this moment appears only after the first look.
-        wait_until(self._is_cleared, "the end of the session")
+        # A process that is just being started shows up only after the first look.
+        wait_until(self._is_cleared, "the end of all processes of the session", self.living)
         for program in filter(None, (self.manager, self.server)):
             program.kill()
             program.wait()
@@ -174,7 +197,7 @@ class Session:
 
 
 def read_process_file(process, name):
-    """What the system tells of a process; nothing once it has gone."""
+    """What the system says of a process; nothing once it has gone."""
     try:
         return pathlib.Path(f"/proc/{process}/{name}").read_text()
     except OSError:

@@ -1,4 +1,4 @@
-"""The stand-in host's command line and its scenarios: what is wrong is told in one line, with status 2."""
+"""The stand-in host's command line and its scenarios: what is wrong is printed in one line, with status 2."""
 
 import subprocess
 import unittest
@@ -16,7 +16,7 @@ class HostTest(unittest.TestCase):
         self.assertEqual(run.returncode, 2, run.stdout + run.stderr)
         lines = [line for line in run.stderr.splitlines() if line.startswith(beginning)]
         self.assertEqual(lines, run.stderr.splitlines())
-        self.assertEqual(len(lines), 1, run.stderr)
+        self.assertEqual(len(lines), 1, f"one line, and not: {run.stderr}")
 
     def test_refuses_wrong_options(self):
         for words in (["--unknown"], ["word"], ["--edition"], ["--edition", "large"], ["--play"], ["--pane", ""]):

@@ -1,13 +1,16 @@
-"""Every way of leaving the pane commits it; both builds and both editions show what they have use for."""
+"""Every way of leaving the pane saves it; both builds and both editions show the controls that they use."""
 
 import json
 import os
 import signal
 import unittest
 
-from session import HIDE_LIST, QUARRYBOOK, SOLO_SORTER, SORTER, Session, wait_until
+from controls import Controls
+from host import Host
+from session import HIDE_LIST, SOLO_SORTER, SORTER, Session
 
 HIDDEN_IN_THE_SANDBOX = {"clipHotKeyRecorder", "showAtLoginCheckbox", "availabilityLabel", "copySelectionLabel"}
+KEY_N = 45
 
 
 class LifeTest(unittest.TestCase):
@@ -37,23 +40,24 @@ class LifeTest(unittest.TestCase):
         self.assert_edit_was_saved()
 
     def test_being_terminated_saves(self):
-        host = self.session.start(QUARRYBOOK, "--play",
-                                  self.session.scenario("select", "edit 2 0 1", "value 2 0", "wait 60"))
-        self.addCleanup(host.stdout.close)
-        self.addCleanup(host.stderr.close)
-        wait_until(lambda: host.stdout.readline().startswith("> wait"), "the edit")
+        host = self.at_the_end_of("select", "edit 2 0 1")
 
-        host.send_signal(signal.SIGTERM)
+        host.terminate()
 
-        self.assertEqual(host.wait(20), 0)
         self.assert_edit_was_saved()
+
+    def at_the_end_of(self, *lines, options=()):
+        """A host that has played the lines and goes on running."""
+        host = Host.playing(self.session, *lines, "wait 60", options=options)
+        host.reach("wait 60")
+        return host
 
     def test_being_left_and_shown_again_keeps_the_edit(self):
         answers = self.session.answers("select", "edit 2 0 1", "unselect", "select", "value 2 0", "unselect", "select",
                                        "edit 2 0 0", "unselect", "select", "value 2 0")
         self.assertEqual(answers, ["1", "0"])
 
-    def test_the_ordinary_build_hides_the_restart_notice_alone(self):
+    def test_the_ordinary_build_hides_only_the_restart_notice(self):
         for edition in ("full", "solo"):
             with self.subTest(edition=edition):
                 state = self.state("--edition", edition)
@@ -61,7 +65,7 @@ class LifeTest(unittest.TestCase):
                 self.assertEqual(hidden, {"attentionLabel"})
                 self.assertEqual(state["toggleLaunchButton"]["title"], "Show")
 
-    def test_the_sandboxed_build_hides_what_it_has_no_use_for(self):
+    def test_the_sandboxed_build_also_hides_the_copy_selection_hot_key_and_the_login_item(self):
         for edition in ("full", "solo"):
             with self.subTest(edition=edition):
                 state = self.state("--sandboxed", "--edition", edition)
@@ -85,7 +89,7 @@ class LifeTest(unittest.TestCase):
         self.assertEqual(host["Sorter.ClipHotKeyModifiers"], 0x300)
         self.assertEqual(self.state()["clipHotKeyRecorder"]["flags"], 0x120000)
 
-    def test_a_taken_combination_is_refused_in_words(self):
+    def test_a_taken_combination_is_refused_with_a_reason(self):
         for options in ([], ["--edition", "solo"]):
             with self.subTest(options=options):
                 answers = self.session.answers("select", "change note 8 0x120000", "offer clip 8 0x120000",
@@ -96,38 +100,35 @@ class LifeTest(unittest.TestCase):
                 self.assertIn("`Take Note' hot key", reason)
                 self.assertNotIn("Sorter.ClipHotKeyCode", self.session.domain("Quarrybook"))
 
-    def test_without_a_registrar_leaving_tells_that_the_login_item_stays(self):
+    def test_without_a_registrar_leaving_opens_the_login_item_alert(self):
         answers = self.session.answers("select", "unselect", "press Cancel", "select", "rows", "unselect",
                                        "press Cancel", options=["--no-plugin"])
         self.assertEqual(answers, ["1"])
 
-    def test_a_domain_that_another_program_writes_meanwhile_keeps_both(self):
-        host = self.session.start(QUARRYBOOK, "--play",
-                                  self.session.scenario("select", "edit 2 0 1", "wait 60"))
-        self.addCleanup(host.stdout.close)
-        self.addCleanup(host.stderr.close)
-        wait_until(lambda: host.stdout.readline().startswith("> wait"), "the edit")
+    def test_a_domain_that_another_program_writes_meanwhile_keeps_both_changes(self):
+        host = self.at_the_end_of("select", "edit 2 0 1")
 
         self.session.run("defaults", "write", SORTER, "Meanwhile", "kept")
-        host.send_signal(signal.SIGTERM)
+        host.terminate()
 
-        self.assertEqual(host.wait(20), 0)
         self.assertEqual(self.session.domain(SORTER), {"Meanwhile": "kept", HIDE_LIST: {"Atlas": True}})
 
     def test_a_notification_daemon_that_died_is_started_again(self):
-        host = self.session.start(QUARRYBOOK, "--play",
-                                  self.session.scenario("select", "change clip 8 0x120000", "wait 1",
-                                                        "change note 45 0x100000", "unselect"))
-        self.addCleanup(host.stdout.close)
-        self.addCleanup(host.stderr.close)
-        wait_until(lambda: host.stdout.readline().startswith("> wait"), "the first hot key")
+        controls = Controls(self.session, "noteHotKeyRecorder")
+        host = self.at_the_end_of("select", "change clip 8 0x120000", options=controls.options)
+        killed = self.session.processes_named("gdnc")
+        self.assertNotEqual(killed, [])
 
-        for daemon in self.session.processes_named("gdnc"):
+        for daemon in killed:
             os.kill(daemon, signal.SIGKILL)
+        controls.record("noteHotKeyRecorder", "ctrl+alt+n", lambda: self.note_hot_key() == KEY_N,
+                        "the hot key to be stored")
 
-        self.assertEqual(host.wait(40), 0)
-        self.assertNotIn("ERROR", host.stderr.read())
-        self.assertEqual(self.session.domain("Quarrybook")["Sorter.NoteHotKeyCode"], 45)
+        self.assertNotEqual(self.session.processes_named("gdnc"), [])
+        self.assertNotIn("ERROR", "\n".join(host.terminate()))
+
+    def note_hot_key(self):
+        return self.session.domain("Quarrybook").get("Sorter.NoteHotKeyCode")
 
     def test_the_shared_file_of_the_sandboxed_build_is_left_to_the_hidden_recorder(self):
         self.session.play("select", "change note 8 0x120000", "unselect", options=["--sandboxed"])

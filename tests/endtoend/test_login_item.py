@@ -1,4 +1,4 @@
-"""The Sorter's login item, an autostart entry: the check box says what a desktop would do, also after a restart."""
+"""The Sorter's login item, an autostart entry: the check box shows what a desktop would do, also after a restart."""
 
 import json
 import shlex
@@ -66,7 +66,7 @@ class LoginItemTest(SorterTest):
                 self.assertEqual(self.check_box(), 1)
                 self.assert_is_honoured(SORTER)
 
-    def test_whose_addition_is_refused_is_told_and_check_reaches_the_registrar(self):
+    def test_whose_addition_is_refused_opens_an_alert_whose_check_button_reaches_the_registrar(self):
         self.session.environment["QUARRYBOOK_REGISTRAR_REFUSES"] = "1"
 
         for options, identifier in self.each_build(ORDINARY_BUILDS):
@@ -78,7 +78,7 @@ class LoginItemTest(SorterTest):
             self.assertEqual(check_box_in(lines), 0)
             self.assertFalse(self.entry(identifier).exists())
 
-    def test_whose_removal_is_refused_is_told_and_stays(self):
+    def test_whose_removal_is_refused_opens_an_alert_and_stays(self):
         self.play("select", "set showAtLoginCheckbox 1", "unselect")
         self.session.environment["QUARRYBOOK_REGISTRAR_REFUSES"] = "1"
 
@@ -89,7 +89,7 @@ class LoginItemTest(SorterTest):
         self.assertEqual(check_box_in(lines), 1)
         self.assert_is_honoured(SORTER)
 
-    def test_that_cannot_be_written_is_told(self):
+    def test_that_cannot_be_written_opens_an_alert(self):
         in_its_way = self.session.home / ".config/autostart"
         in_its_way.parent.mkdir(exist_ok=True)
         in_its_way.write_text("no folder")
@@ -120,9 +120,9 @@ class LoginItemTest(SorterTest):
 
 
 def check_box_in(lines):
-    """The state of the check box that was told first."""
-    told = next(line for line in lines if line.startswith("showAtLoginCheckbox: "))
-    return json.loads(told.split(": ", 1)[1])["state"]
+    """The state of the check box that was printed first."""
+    printed = next(line for line in lines if line.startswith("showAtLoginCheckbox: "))
+    return json.loads(printed.split(": ", 1)[1])["state"]
 
 
 if __name__ == "__main__":

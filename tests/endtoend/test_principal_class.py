@@ -7,7 +7,7 @@ from session import HIDE_LIST, PANE, SOLO_SORTER, SORTER, Session
 
 
 class PrincipalClassTest(unittest.TestCase):
-    def test_answers_to_the_operations_of_the_pane(self):
+    def test_has_the_operations_of_the_pane(self):
         session = self.enterContext(Session())
         session.set_domain(SOLO_SORTER, {HIDE_LIST: {"Atlas": True}})
         session.set_domain(SORTER, {HIDE_LIST: {"Books": True}, "other": 1})

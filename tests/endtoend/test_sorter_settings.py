@@ -2,12 +2,11 @@
 
 import os
 import plistlib
-import signal
-import subprocess
 import unittest
 
-from real_sorter import (EMBEDDED_SORTER, FULL, ORDINARY_BUILDS, SANDBOXED_BUILDS, SOLO, Host, SorterTest,
-                         hot_key, program_of)
+from host import Host
+from real_sorter import (EMBEDDED_SORTER, FULL, ORDINARY_BUILDS, SANDBOXED_BUILDS, SOLO, SorterTest, hot_key,
+                         program_of)
 from session import HIDE_LIST, PANE, SOLO_SORTER, SORTER, wait_until
 
 HOT_KEYS = "QBSSorterShortcutKeysChanged"
@@ -15,7 +14,6 @@ PREFERENCES = "QBSSorterPreferencesUpdated"
 LIST = "QBSSorterHideAppUpdated"
 FROM_HOST = 'object="Quarrybook"'
 FACTORY_FILE = "Contents/Resources/FactoryDefaults.plist"
-NOTE_RECORDER = ("230", "302")  # in the window, in pixels from the left and the top
 COMMAND, OPTION, CONTROL = 0x100, 0x800, 0x1000
 
 
@@ -26,13 +24,11 @@ class SorterSettingsTest(SorterTest):
             host = self.begin("select", "wait 60", options=options)
             host.reach("wait 60")
 
-            self.type_until_told(HOT_KEYS, "Quarrybook Preferences: Sorter",
-                                 "mousemove", "--window", "%1", *NOTE_RECORDER, "click", "1", "key", "ctrl+alt+n")
+            self.record_until_logged("noteHotKeyRecorder", "ctrl+alt+n")
 
-            self.wait_told(HOT_KEYS, FROM_HOST, "userInfo=none", hot_key(45, CONTROL | OPTION))
-            host.process.send_signal(signal.SIGTERM)
-            host.finish()
-            self.wait_told(PREFERENCES, hot_key(45, CONTROL | OPTION))
+            self.wait_logged(HOT_KEYS, FROM_HOST, "userInfo=none", hot_key(45, CONTROL | OPTION))
+            host.terminate()
+            self.wait_logged(PREFERENCES, hot_key(45, CONTROL | OPTION))
             sorter.kill()
             sorter.wait()
             self.session.domain_file("Quarrybook").unlink()
@@ -45,12 +41,12 @@ class SorterSettingsTest(SorterTest):
                       "unselect", "select", "set visibilityButton 1", "change note 0 0x140000", "unselect",
                       options=options)
 
-            self.wait_told(PREFERENCES, FROM_HOST, '{"visibility"=NO} SorterTabIsInvisible=NO', "ClipHotKeyCode=8 ",
+            self.wait_logged(PREFERENCES, FROM_HOST, '{"visibility"=NO} SorterTabIsInvisible=NO', "ClipHotKeyCode=8 ",
                            hot_key(0, CONTROL | COMMAND))
             self.assertEqual([line.split()[0] for line in self.log()[2:]],
                              [HOT_KEYS, HOT_KEYS, PREFERENCES, HOT_KEYS, PREFERENCES])
-            self.wait_told(HOT_KEYS, FROM_HOST, "userInfo=none", hot_key(45, COMMAND))
-            self.wait_told(PREFERENCES, FROM_HOST, '{"visibility"=YES} SorterTabIsInvisible=YES', hot_key(45, COMMAND))
+            self.wait_logged(HOT_KEYS, FROM_HOST, "userInfo=none", hot_key(45, COMMAND))
+            self.wait_logged(PREFERENCES, FROM_HOST, '{"visibility"=YES} SorterTabIsInvisible=YES', hot_key(45, COMMAND))
             self.assert_stored_as_whole_numbers({"Sorter.NoteHotKeyCode": 0, "Sorter.NoteHotKeyModifiers": 0x1100,
                                                  "Sorter.ClipHotKeyCode": 8, "Sorter.ClipHotKeyModifiers": 0x300})
             sorter.kill()
@@ -67,26 +63,25 @@ class SorterSettingsTest(SorterTest):
                           "until toggleLaunchButton Quit", "wait 60")
         host.reach("wait 60")
         self.wait_for_start(SORTER)
-        self.assertIn(hot_key(45, COMMAND), self.told("settings")[0])
+        self.assertIn(hot_key(45, COMMAND), self.logged("settings")[0])
 
-        host.process.send_signal(signal.SIGTERM)
-        host.finish()
+        host.terminate()
 
-        self.wait_told(PREFERENCES, FROM_HOST, '{"visibility"=NO}', hot_key(45, COMMAND))
+        self.wait_logged(PREFERENCES, FROM_HOST, '{"visibility"=NO}', hot_key(45, COMMAND))
 
-    def test_the_embedded_sorter_hears_of_hot_keys_and_the_edition_s_own_of_leaving_too(self):
+    def test_the_embedded_sorter_is_notified_of_hot_keys_and_the_edition_s_own_also_of_leaving(self):
         options, identifier = SANDBOXED_BUILDS[0]
         self.start_by_hand(identifier)
         self.play("select", "change note 45 0x100000", "unselect", options=options)
-        self.wait_told(HOT_KEYS, hot_key(45, COMMAND), "clipHotKey.dictionary=none")
+        self.wait_logged(HOT_KEYS, hot_key(45, COMMAND), "clipHotKey.dictionary=none")
 
         self.start_by_hand(SORTER)
-        self.assertEqual(self.told(PREFERENCES), [])
+        self.assertEqual(self.logged(PREFERENCES), [])
         self.play("select", "change note 0 0x100000", "unselect", options=options)
 
-        wait_until(lambda: len(self.told(PREFERENCES)) == 2, "the notice of both")
+        wait_until(lambda: len(self.logged(PREFERENCES)) == 2, "the notice to reach both Sorters", self.printed_log)
         self.assertTrue(all('{"visibility"=NO}' in line and hot_key(0, COMMAND) in line
-                            for line in self.told(PREFERENCES)))
+                            for line in self.logged(PREFERENCES)))
 
     def test_an_edited_hide_list_reaches_the_sorter(self):
         for options, identifier in self.each_build(ORDINARY_BUILDS):
@@ -95,8 +90,8 @@ class SorterSettingsTest(SorterTest):
 
             self.play("select", "edit 2 0 1", "unselect", "select", "edit 2 1 0", "unselect", options=options)
 
-            self.wait_told(LIST, FROM_HOST, "userInfo=none", '{"Atlas"=YES; "Books"=NO}')
-            self.assertEqual([line.split("=", 3)[-1] for line in self.told(LIST)],
+            self.wait_logged(LIST, FROM_HOST, "userInfo=none", '{"Atlas"=YES; "Books"=NO}')
+            self.assertEqual([line.split("=", 3)[-1] for line in self.logged(LIST)],
                              ['{"Atlas"=YES; "Books"=YES}', '{"Atlas"=YES; "Books"=NO}'])
             sorter.kill()
             sorter.wait()
@@ -108,7 +103,7 @@ class SorterSettingsTest(SorterTest):
 
         self.play("select", "edit 2 0 1", "unselect", options=options)
 
-        self.wait_told(LIST, FROM_HOST, '{"Atlas"=YES}')
+        self.wait_logged(LIST, FROM_HOST, '{"Atlas"=YES}')
 
     def test_the_reset_brings_the_factory_list_back(self):
         self.session.set_domain(SORTER, {HIDE_LIST: {"Atlas": True}, "other": 1})
@@ -120,9 +115,9 @@ class SorterSettingsTest(SorterTest):
         self.assertEqual([line for line in lines if line.startswith("= ")],
                          [f"= {len(factory)}", f"= {sorted(factory).index('Films')}", "= -1"])
         self.assertEqual(self.session.domain(SORTER), {HIDE_LIST: factory, "other": 1})
-        self.wait_told(LIST, FROM_HOST, "userInfo=none", '"Films"=YES', '"Mail"=NO')
+        self.wait_logged(LIST, FROM_HOST, "userInfo=none", '"Films"=YES', '"Mail"=NO')
 
-    def test_the_reset_of_the_solo_edition_writes_the_full_edition_s_domain_and_tells_the_solo_sorter(self):
+    def test_the_reset_of_the_solo_edition_writes_the_full_edition_s_domain_and_notifies_the_solo_sorter(self):
         self.session.set_domain(SORTER, {HIDE_LIST: {"Atlas": True}})
         self.session.set_domain(SOLO_SORTER, {HIDE_LIST: {"Books": True}})
         self.start_by_hand(SOLO_SORTER)
@@ -132,9 +127,9 @@ class SorterSettingsTest(SorterTest):
         self.assertEqual([line for line in lines if line.startswith("= ")], ["= 1", '= "Books"'])
         self.assertEqual(self.session.domain(SORTER), {HIDE_LIST: factory_list(SOLO_SORTER)})
         self.assertEqual(self.session.domain(SOLO_SORTER), {HIDE_LIST: {"Books": True}})
-        self.wait_told(LIST, FROM_HOST, "userInfo=none", '{"Books"=YES}')
+        self.wait_logged(LIST, FROM_HOST, "userInfo=none", '{"Books"=YES}')
 
-    def test_the_reset_of_the_sandboxed_build_finds_no_factory_list_and_tells_the_edition_s_sorter(self):
+    def test_the_reset_of_the_sandboxed_build_finds_no_factory_list_and_notifies_the_edition_s_sorter(self):
         for (options, _), (_, identifier) in zip(SANDBOXED_BUILDS, ORDINARY_BUILDS):
             with self.subTest(options=options):
                 self.session.set_domain(SORTER, {HIDE_LIST: {"Atlas": True}, "other": 1})
@@ -143,17 +138,17 @@ class SorterSettingsTest(SorterTest):
                 self.play("select", "reset", "unselect", options=options)
 
                 self.assertEqual(self.session.domain(SORTER), {"other": 1})
-                self.wait_told(LIST, FROM_HOST, "userInfo=none", f"{HIDE_LIST}=none")
+                self.wait_logged(LIST, FROM_HOST, "userInfo=none", f"{HIDE_LIST}=none")
                 sorter.kill()
                 sorter.wait()
 
     def test_the_shared_file_holds_two_whole_numbers_that_the_embedded_sorter_reads(self):
         self.start_by_hand(EMBEDDED_SORTER)
-        host = Host(self.session, os.environ["REVEALING_HOST"], "-Pane", PANE)
+        host = Host(self.session, os.environ["REVEALING_HOST"], "-Pane", PANE, *self.controls.options)
 
-        self.type_until_told(HOT_KEYS, "Revealed", "key", "--delay", "50", "space", "ctrl+alt+c")
+        self.record_until_logged("clipHotKeyRecorder", "ctrl+alt+c")
 
-        self.wait_told(HOT_KEYS, "clipHotKey.dictionary={", '"Sorter.ClipHotKeyCode"=8;',
+        self.wait_logged(HOT_KEYS, "clipHotKey.dictionary={", '"Sorter.ClipHotKeyCode"=8;',
                        f'"Sorter.ClipHotKeyModifiers"={CONTROL | OPTION}}}')
         file, = self.session.home.rglob("clipHotKey.dictionary")
         self.assertEqual(file.parent, self.session.home / ".local/share/Group Containers/Z3K8WQ4N7P.quarry2/Sorter")
@@ -161,19 +156,13 @@ class SorterSettingsTest(SorterTest):
         held = plistlib.loads(file.read_bytes(), fmt=plistlib.FMT_XML)
         self.assertEqual(held, {"Sorter.ClipHotKeyCode": 8, "Sorter.ClipHotKeyModifiers": CONTROL | OPTION})
         self.assertEqual({type(value) for value in held.values()}, {int})
-        host.process.terminate()
-        host.process.wait(20)
+        host.terminate()
 
     # --- The keyboard
 
-    def type_until_told(self, name, title, *input_words):
-        """Gives the input to the window of that title, again while it has no ear for the keyboard yet."""
-        def typed():
-            subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title, "windowactivate", *input_words],
-                           env=self.session.environment, capture_output=True)
-            return self.told(name)
-
-        wait_until(typed, f"{name} of real keys")
+    def record_until_logged(self, recorder, keys):
+        """Records the keys as a user does, until a Sorter has logged that hot keys changed."""
+        self.controls.record(recorder, keys, lambda: self.logged(HOT_KEYS), f"{HOT_KEYS} in the Sorter's log")
 
 
 def factory_list(identifier):
