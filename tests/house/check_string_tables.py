@@ -1,0 +1,70 @@
+#!/usr/bin/env python3
+"""check_string_tables.py ROOT: holds the string table of every language to exactly the keys that the code looks up.
+
+The code looks up the constants of type TextKey that it uses, and the texts that the Objective-C++ shell asks for in
+place. Prints each key that is missing, surplus or there twice, and each line that is no entry; exits with 1 if there
+is one.
+"""
+
+import codecs
+import collections
+import pathlib
+import re
+import sys
+
+STRING = r'"(?:[^"\\]|\\.)*"'
+CONSTANT = re.compile(rf"TextKey (\w+)\{{\s*((?:{STRING}\s*)+)\}}")
+TEXT_IN_PLACE = re.compile(rf"(?:localized\(|localizedStringForKey:)\s*((?:@?{STRING}\s*)+)")
+ENTRY_OR_COMMENT = re.compile(rf"/\*.*?\*/|//[^\n]*|({STRING})\s*=\s*{STRING}\s*;", re.DOTALL)
+ESCAPES = {"n": "\n", "t": "\t", "r": "\r"}
+
+
+def unescaped(literals):
+    """The text of string literals that stand side by side."""
+    contents = "".join(literal[1:-1] for literal in re.findall(STRING, literals))
+    return re.sub(r"\\(.)", lambda escape: ESCAPES.get(escape[1], escape[1]), contents, flags=re.DOTALL)
+
+
+def looked_up(source):
+    """The keys that the code looks up."""
+    texts = [file.read_text(encoding="utf-8") for file in source.rglob("*") if file.suffix in {".h", ".cpp", ".m", ".mm"}]
+    used = {name for text in texts for name in re.findall(r"texts::(\w+)", text)}
+    constants = {unescaped(literals) for text in texts for name, literals in CONSTANT.findall(text) if name in used}
+    return constants | {unescaped(literals) for text in texts for literals in TEXT_IN_PLACE.findall(text)}
+
+
+def decoded(table):
+    data = table.read_bytes()
+    utf16 = data.startswith((codecs.BOM_UTF16_LE, codecs.BOM_UTF16_BE))
+    return data.decode("utf-16" if utf16 else "utf-8-sig")
+
+
+def complaints(table, expected):
+    if not table.exists():
+        return ["there is no such file"]
+    return wrong_entries(decoded(table), expected)
+
+
+def wrong_entries(text, expected):
+    keys = collections.Counter(unescaped(entry[1]) for entry in ENTRY_OR_COMMENT.finditer(text) if entry[1])
+    yield from (f"missing key: {key!r}" for key in sorted(expected - keys.keys()))
+    yield from (f"surplus key: {key!r}" for key in sorted(keys.keys() - expected))
+    yield from (f"key is there {times} times: {key!r}" for key, times in sorted(keys.items()) if times > 1)
+    rest = ENTRY_OR_COMMENT.sub("", text)
+    yield from (f"neither entry nor comment: {line.strip()!r}" for line in rest.splitlines() if line.strip())
+
+
+def main():
+    root = pathlib.Path(sys.argv[1])
+    expected = looked_up(root / "src")
+    tables = [folder / "Localizable.strings" for folder in sorted((root / "resources").glob("*.lproj"))]
+    wrong = [f"{table.relative_to(root)}: {complaint}" for table in tables for complaint in complaints(table, expected)]
+    if not expected or not tables:
+        wrong.append(f"{len(expected)} keys in the code, {len(tables)} languages: there should be some of both")
+    for line in wrong:
+        print(line)
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
