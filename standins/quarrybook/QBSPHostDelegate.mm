@@ -53,7 +53,7 @@ static NSString* const paneName = @"SorterPane.prefPane";
     else
         [[preferences sorterButton] performClick:nil];
     if (options->picture && !options->scenario)
-        [self performSelector:@selector(takePictureAndQuit) withObject:nil afterDelay:0.5];
+        [self performSelector:@selector(takePictureAndQuit) withObject:nil afterDelay:0];
 }
 
 - (void)applicationWillTerminate:(NSNotification*)notification {
