@@ -2,10 +2,16 @@
 
 #import "QBSPPreferencesWindow.h"
 
+#include <memory>
+
+namespace quarrybook {
+struct Scenario;
+}
+
 /// Plays a scenario, one command after the other, from the run loop. It prints each command and its answer; a
 /// wrong line ends the program with status 2.
 @interface QBSPScenarioPlayer : NSObject {
-    void* playing; // of a type that only C++ knows
+    std::unique_ptr<quarrybook::Scenario> playing;
     NSTimer* timer;
     BOOL busy;
     NSWindow* modalWindowBefore;

@@ -13,10 +13,12 @@ using qbsp::scenario::Lines;
 using qbsp::scenario::ScenarioError;
 using quarrybook::Outcome;
 using quarrybook::ReadCommand;
+using quarrybook::Scenario;
 using quarrybook::Scene;
 
-namespace {
+namespace quarrybook {
 
+/// A scenario that is being played.
 struct Scenario {
     Lines lines;
     Scene scene;
@@ -27,9 +29,9 @@ struct Scenario {
     SEL message = nullptr;
 };
 
-Scenario& scenarioAt(void* playing) {
-    return *static_cast<Scenario*>(playing);
-}
+} // namespace quarrybook
+
+namespace {
 
 constexpr double pulse = 0.02;
 constexpr double longestWait = 20;
@@ -80,18 +82,17 @@ void QBSPQuitWithStatus(int status) {
         [self release];
         return nil;
     }
-    playing = new Scenario{Lines(path, *text), Scene(preferences, runner)};
+    playing = std::make_unique<Scenario>(Scenario{Lines(path, *text), Scene(preferences, runner)});
     return self;
 }
 
 - (void)dealloc {
     [timer invalidate];
-    delete static_cast<Scenario*>(playing);
     [super dealloc];
 }
 
 - (void)playAndSend:(SEL)message to:(id)target {
-    Scenario& scenario = scenarioAt(playing);
+    Scenario& scenario = *playing;
     scenario.target = target;
     scenario.message = message;
     timer = [NSTimer timerWithTimeInterval:pulse
@@ -104,7 +105,7 @@ void QBSPQuitWithStatus(int status) {
 }
 
 - (void)pulse:(NSTimer*)aTimer {
-    Scenario& scenario = scenarioAt(playing);
+    Scenario& scenario = *playing;
     // A click lets the run loop go on while it shows, and the next command waits for its end. But a modal
     // window that opened within a command is what the next command is for.
     NSWindow* modalWindow = [NSApp modalWindow];
@@ -130,7 +131,7 @@ void QBSPQuitWithStatus(int status) {
 }
 
 - (BOOL)isReady {
-    Scenario& scenario = scenarioAt(playing);
+    Scenario& scenario = *playing;
     if (!scenario.condition || scenario.condition()) {
         scenario.condition = nullptr;
         return YES;
@@ -141,21 +142,21 @@ void QBSPQuitWithStatus(int status) {
 }
 
 - (void)playNext {
-    if (const auto command = scenarioAt(playing).lines.nextCommand())
+    if (const auto command = playing->lines.nextCommand())
         [self play:*command];
     else
         [self finish];
 }
 
 - (void)stopBecause:(const char*)problem {
-    std::fprintf(stderr, "%s: %s\n", scenarioAt(playing).lines.place().c_str(), problem);
+    std::fprintf(stderr, "%s: %s\n", playing->lines.place().c_str(), problem);
     [timer invalidate];
     timer = nil;
     QBSPQuitWithStatus(2);
 }
 
 - (void)play:(std::string_view)line {
-    Scenario& scenario = scenarioAt(playing);
+    Scenario& scenario = *playing;
     const ReadCommand command = quarrybook::readCommand(line, scenario.scene);
     if (command.echo == quarrybook::Echo::shown)
         printLine("> " + std::string(line));
@@ -168,7 +169,7 @@ void QBSPQuitWithStatus(int status) {
 }
 
 - (void)finish {
-    Scenario& scenario = scenarioAt(playing);
+    Scenario& scenario = *playing;
     [timer invalidate];
     timer = nil;
     [scenario.target performSelector:scenario.message];

@@ -15,7 +15,7 @@ EventLog EventLog::ofUser() {
                                     : xdg::stateHome() / "quarrybook" / "sorter.log");
 }
 
-void EventLog::tell(const std::string& line) const {
+void EventLog::write(const std::string& line) const {
     std::cout << line << std::endl;
     std::error_code failure;
     std::filesystem::create_directories(file_.parent_path(), failure);

@@ -6,8 +6,8 @@
 
 namespace standin {
 
-/// What the Sorter tells: one line each, on standard output and at the end of a file. Other programs may read
-/// both while it runs.
+/// The Sorter's log: a line for each event, on standard output and at the end of a file. Other programs may
+/// read both while it runs.
 class EventLog {
 public:
     /// The file that $QUARRYBOOK_SORTER_LOG names, else one among the user's logs.
@@ -15,8 +15,8 @@ public:
 
     explicit EventLog(std::filesystem::path file) : file_(std::move(file)) {}
 
-    /// Writes the line at once. A file that cannot be written stays without it.
-    void tell(const std::string& line) const;
+    /// Writes the line at once. When the file cannot be written, the line is on standard output only.
+    void write(const std::string& line) const;
 
 private:
     std::filesystem::path file_;

@@ -1,6 +1,8 @@
 #import "QBSPSorter.h"
 
 #include "Description.h"
+#include "EventLog.h"
+#include "Stores.h"
 
 #include <cstdlib>
 #include <string>
@@ -33,58 +35,64 @@ static std::string lineOf(NSNotification* notice, const std::string& values) {
 
 - (id)init {
     if ((self = [super init]) != nil)
-        eventLog = new standin::EventLog(standin::EventLog::ofUser());
+        eventLog = std::make_unique<standin::EventLog>(standin::EventLog::ofUser());
     return self;
 }
 
-- (void)tellOfStart {
+- (void)dealloc {
+    [listener release];
+    [tab release];
+    [super dealloc];
+}
+
+- (void)logStart {
     NSString* identifier = [[NSBundle mainBundle] bundleIdentifier];
-    eventLog->tell("started " + std::string([identifier UTF8String]));
-    eventLog->tell("settings " + stores->visibility(usualHost) + " " + stores->hotKeys(usualHost) + " " +
-                   stores->hideList());
+    eventLog->write("started " + std::string([identifier UTF8String]));
+    eventLog->write("settings " + stores->visibility(usualHost) + " " + stores->hotKeys(usualHost) + " " +
+                    stores->hideList());
 }
 
 #pragma mark - NSApplicationDelegate
 
 - (void)applicationDidFinishLaunching:(NSNotification*)notification {
-    stores = new standin::Stores([[NSBundle mainBundle] bundleIdentifier]);
+    stores = std::make_unique<standin::Stores>([[NSBundle mainBundle] bundleIdentifier]);
     tab = [[QBSPTab alloc] init];
     [tab setVisible:stores->tabIsVisible(usualHost)];
     listener = [[QBSPHostListener alloc] initWithReceiver:self];
     [listener listen];
     // The launch is over only when the run loop goes round.
-    [self performSelector:@selector(tellOfStart) withObject:nil afterDelay:0];
+    [self performSelector:@selector(logStart) withObject:nil afterDelay:0];
 }
 
 - (NSApplicationTerminateReply)applicationShouldTerminate:(NSApplication*)sender {
     if (std::getenv("QUARRYBOOK_SORTER_HANGS") == nullptr)
         return NSTerminateNow;
-    eventLog->tell("asked to quit, and hangs");
+    eventLog->write("asked to quit, and hangs");
     return NSTerminateCancel;
 }
 
 - (void)applicationWillTerminate:(NSNotification*)notification {
-    eventLog->tell("quitting");
+    eventLog->write("quitting");
 }
 
 #pragma mark - QBSPHostNotices
 
 - (void)hotKeysChanged:(NSNotification*)notice {
-    eventLog->tell(lineOf(notice, stores->hotKeys(hostOf(notice))));
+    eventLog->write(lineOf(notice, stores->hotKeys(hostOf(notice))));
 }
 
 - (void)preferencesUpdated:(NSNotification*)notice {
     NSString* host = hostOf(notice);
     [tab setVisible:stores->tabIsVisible(host)];
-    eventLog->tell(lineOf(notice, stores->visibility(host) + " " + stores->hotKeys(host)));
+    eventLog->write(lineOf(notice, stores->visibility(host) + " " + stores->hotKeys(host)));
 }
 
 - (void)hideListUpdated:(NSNotification*)notice {
-    eventLog->tell(lineOf(notice, stores->hideList()));
+    eventLog->write(lineOf(notice, stores->hideList()));
 }
 
 - (void)listensAgain {
-    eventLog->tell("listening again");
+    eventLog->write("listening again");
 }
 
 @end

@@ -11,9 +11,11 @@ int main() {
     // Its only window is the tab.
     [[NSUserDefaults standardUserDefaults]
         registerDefaults:[NSDictionary dictionaryWithObject:@"YES" forKey:@"GSSuppressAppIcon"]];
-    [[NSApplication sharedApplication] setDelegate:[[QBSPSorter alloc] init]];
+    QBSPSorter* sorter = [[QBSPSorter alloc] init];
+    [[NSApplication sharedApplication] setDelegate:sorter];
     [QBSPQuitRequest heed];
     [NSApp run];
+    [sorter release];
     [pool release];
     return 0;
 }
