@@ -19,6 +19,7 @@ static const NSTimeInterval timeBetweenLooks = 0.02;
 - (NSString*)title;
 - (NSString*)stringValue;
 - (BOOL)isEnabled;
+- (NSView*)controlNamed:(NSString*)name;
 @end
 
 static NSDictionary* propertyList(NSString* path) {
@@ -69,14 +70,14 @@ static NSString* titleOf(NSView* view) {
     return label == NULL ? @"" : text([object_getIvar(view, label) stringValue]);
 }
 
-/// The one of the fields by which a view that holds this one returns it.
+/// The one of the fields that is this view's name to the view that holds it.
 static NSString* nameOf(NSView* view, NSArray* fields) {
-    for (NSView* holder = [view superview]; holder != nil; holder = [holder superview])
-        for (NSUInteger index = 0; index < [fields count]; ++index) {
-            const SEL field = NSSelectorFromString([fields objectAtIndex:index]);
-            if ([holder respondsToSelector:field] && [holder performSelector:field] == view)
-                return [fields objectAtIndex:index];
-        }
+    NSView* holder = [view superview];
+    while (holder != nil && ![holder respondsToSelector:@selector(controlNamed:)])
+        holder = [holder superview];
+    for (NSUInteger index = 0; index < [fields count]; ++index)
+        if (holder != nil && [holder controlNamed:[fields objectAtIndex:index]] == view)
+            return [fields objectAtIndex:index];
     return @"";
 }
 
