@@ -18,12 +18,12 @@ namespace qbsp {
                                                             const platform::StringComparison& strings);
 
 /// The rows of the hide list. The list does not exist until a stored one was loaded; until then it has no
-/// rows and takes none.
+/// rows and rows cannot be added.
 class HideList {
 public:
     using Records = std::vector<std::shared_ptr<HideAppInfo>>;
 
-    /// What lookups answer for a name that no row bears: it is no row, and not the first one.
+    /// What a lookup returns when no row has the name.
     static constexpr std::int64_t notFound = -1;
 
     /// The comparison must outlive the list.
@@ -43,16 +43,16 @@ public:
     /// Appends a row and sorts; does nothing while the list does not exist.
     void add(const std::shared_ptr<HideAppInfo>& record);
 
-    /// Takes all rows away. The list goes on existing when it did.
+    /// Removes all rows. A list that existed goes on existing.
     void removeAll();
 
     /// The first row whose name matches, ignoring case, or notFound.
     [[nodiscard]] std::int64_t indexOf(std::string_view appName) const;
 
-    /// The row of that very record; 0 while the list does not exist.
+    /// The row that holds this record, found by identity; 0 while the list does not exist.
     [[nodiscard]] std::size_t indexOf(const std::shared_ptr<HideAppInfo>& record) const;
 
-    /// The list as it is stored. Of rows with one name the later counts.
+    /// The list as it is stored. Of rows with the same name the last counts.
     [[nodiscard]] platform::Dictionary hideFlags() const;
 
 private:

@@ -11,7 +11,7 @@ void QBSPPreferencePane::resetFullscreenSettings(Sender) {
 void QBSPPreferencePane::deleteFullScreenSettings() {
     // The Sorter beside the registrar in both builds: the embedded one is not asked for its factory list.
     sorterDomain().resetHideFlags(factoryHideFlags(sorterPathBesideRegistrar(), services_.propertyLists));
-    tellRunningSorterOfHideList();
+    notifyRunningSorterOfHideList();
     tableArray_.removeAll();
     loadHideAppData();
     controls.hideAppsTable->reloadData();

@@ -62,7 +62,9 @@ void QBSPPreferencePane::shortcutRecorderKeyComboDidChange(const platform::Recor
     } else if (&recorder == controls.noteHotKeyRecorder.get()) {
         storeHotKey(noteHotKeyKeys, keyCombo);
     }
-    // The hot key is set; whether it was flushed does not change what the Sorter is told.
+    // A recorder that is neither of the two has no keys to store under. What follows is done for every change
+    // that a recorder reports: the Sorter then reads its hot keys again, which does no harm.
+    // The Sorter is notified whether or not the flush worked: the hot key is set.
     std::ignore = services_.userDefaults.synchronize();
     postToSorter(QBSSorterShortcutKeysChanged, std::nullopt);
     enableAttentionLabel(&recorder);
@@ -85,7 +87,7 @@ void QBSPPreferencePane::mirrorClipHotKey(const platform::KeyCombo& keyCombo) {
 }
 
 void QBSPPreferencePane::enableAttentionLabel(Sender) {
-    // Despite its name it shows no label: a running Sorter is told when the pane is left, and needs no
+    // Despite its name it shows no label: a running Sorter is notified when the pane is left, and needs no
     // restart.
     shouldRestartSorter_ = true;
 }

@@ -19,9 +19,9 @@ void QBSPPreferencePane::mainViewDidLoad() {
     titleColumn(nameColumn, texts::application);
     titleColumn(flagColumn, texts::hide);
     if (services_.host.isSandboxed())
-        hideWhatTheSandboxHasNoUseFor();
-    // The only registration. Leaving the pane ends it, and showing the pane again does not renew it: whoever
-    // looks at the pane again sees the title refreshed by that.
+        hideControlsUnusedInSandbox();
+    // The only registration. Leaving the pane ends it, and showing the pane again does not renew it: the
+    // title is refreshed then anyway.
     services_.workspace.addObserver(weak_from_this(), terminationNotification);
     base_.mainViewDidLoad();
 }
@@ -35,7 +35,7 @@ void QBSPPreferencePane::showTexts() {
     controls.takeNoteLabel->setStringValue(localized(texts::takeNoteHotkey));
     controls.copySelectionLabel->setStringValue(localized(texts::copySelectionHotkey));
     controls.attentionLabel->setStringValue(localized(texts::sorterNeedsToRestart));
-    // Nothing shows the notice again: the Sorter takes changes up while it runs.
+    // Nothing shows the notice again: a running Sorter takes up changes without a restart.
     controls.attentionLabel->setHidden(true);
     controls.hideAppLabel->setStringValue(localized(texts::hideSorterInFullScreen));
     controls.resetFullscreenSettingsButton->setTitle(localized(texts::resetFullscreenSettings));
@@ -46,7 +46,7 @@ void QBSPPreferencePane::titleColumn(platform::ColumnIdentifier identifier, plat
     column.setHeaderStringValue(localized(text));
 }
 
-void QBSPPreferencePane::hideWhatTheSandboxHasNoUseFor() {
+void QBSPPreferencePane::hideControlsUnusedInSandbox() {
     controls.showAtLoginCheckbox->setHidden(true);
     controls.availabilityLabel->setHidden(true);
     controls.copySelectionLabel->setHidden(true);

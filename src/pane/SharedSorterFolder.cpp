@@ -9,12 +9,12 @@ std::optional<platform::URL> sharedSorterFolder(platform::FileManager& files, pl
     if (!container)
         return std::nullopt;
     const auto folder = container->appendingPathComponent(sharedSorterFolderName);
-    // Whatever lies there counts, also a plain file: a write below it then fails, as one without a folder
-    // does.
+    // Anything that lies there counts, even a plain file: a write below it then fails, as it does without a
+    // folder.
     if (files.fileExistsAtPath(folder.path()))
         return folder;
     const auto error = files.createDirectoryAtURL(folder, platform::IntermediateDirectories::create);
-    // The folder is answered all the same: whoever writes into it learns that nothing could be written.
+    // The folder is returned all the same: a write into it then reports that it failed.
     if (error)
         log.log("ERROR: " + *error);
     return folder;

@@ -8,7 +8,7 @@
 namespace qbsp {
 
 /// The folder that the sandboxed host shares with its Sorter, made when it is missing. None when the process
-/// has no group container. A failure to make it is logged, and the folder is answered all the same.
+/// has no group container. When it cannot be made, that is logged, and its URL is returned all the same.
 [[nodiscard]] std::optional<platform::URL> sharedSorterFolder(platform::FileManager& files,
                                                               platform::Log& log);
 

@@ -26,7 +26,7 @@ platform::URL QBSPPreferencePane::embeddedSorterURL() const {
 }
 
 std::optional<std::string> QBSPPreferencePane::sorterPathBesideRegistrar() const {
-    // Without a registrar the platform is asked about no class, and what it then answers is taken as it is.
+    // Without a registrar the platform is asked about no class, and its result is taken as it is.
     const auto executable = services_.bundles.executablePathOfBundleForClassOf(loginItemRegistrar());
     if (!executable)
         return std::nullopt;

@@ -25,7 +25,8 @@ public:
     [[nodiscard]] virtual std::optional<std::string>
     executablePathOfBundleForClassOf(const QBSPSorterControl* registrar) const = 0;
 
-    /// The text for the key in the pane's own bundle; without a table, in its default one.
+    /// The text for the key in a table of the pane's own bundle: the default one when none is named. A key
+    /// that the table lacks gives the fallback.
     [[nodiscard]] virtual std::string localizedStringForKey(TextKey key, FallbackText value,
                                                             std::optional<TextTable> table) const = 0;
 };

@@ -11,12 +11,13 @@ namespace qbsp::platform {
 /// How a notification is delivered.
 enum class NotificationOptions : unsigned { deliverImmediately = 1 };
 
-/// Tells other processes that something happened.
+/// Notifies other processes.
 class DistributedNotificationCenter {
 public:
     virtual ~DistributedNotificationCenter() = default;
 
-    /// Posts the notification to whoever listens, in any process; harmless when nobody does. Never fails.
+    /// Posts the notification to its observers in all processes; does nothing when there are none. A failure
+    /// is not reported.
     virtual void postNotificationName(NotificationName name, const std::string& object,
                                       const std::optional<Dictionary>& userInfo,
                                       NotificationOptions options) = 0;

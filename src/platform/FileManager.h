@@ -23,8 +23,8 @@ public:
     /// True when anything, a file or a folder, is at that path.
     [[nodiscard]] virtual bool fileExistsAtPath(const std::string& path) const = 0;
 
-    /// Makes a folder with default attributes. Returns the description of the error object that the platform
-    /// gives; none where it gives none, whether or not there is a folder afterwards.
+    /// Makes a folder with default attributes. Returns the description of the error that the platform
+    /// reports; none when it reports no error.
     [[nodiscard]] virtual std::optional<std::string>
     createDirectoryAtURL(const URL& url, IntermediateDirectories intermediates) = 0;
 };

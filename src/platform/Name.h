@@ -6,7 +6,7 @@
 namespace qbsp::platform {
 
 /// A name of one kind, told apart from names of other kinds by its type. It refers to text that outlives it:
-/// names are the pane's constants.
+/// names are constants.
 template <class Kind>
 struct Name {
     std::string_view text;
@@ -34,7 +34,7 @@ using Selector = Name<struct SelectorKind>;
 using ApplicationGroup = Name<struct ApplicationGroupKind>;
 /// A text's wording in English, which is its key in the string tables.
 using TextKey = Name<struct TextKeyKind>;
-/// What a text lookup answers when the table lacks the key; empty: the key itself.
+/// The text that a lookup returns when the table lacks the key; an empty one stands for the key itself.
 using FallbackText = Name<struct FallbackTextKind>;
 /// A string table of a bundle.
 using TextTable = Name<struct TextTableKind>;

@@ -20,7 +20,9 @@ class OpenPanel {
 public:
     virtual ~OpenPanel() = default;
 
+    /// Whether the user may choose folders.
     virtual void setCanChooseDirectories(bool canChoose) = 0;
+    /// Whether the user may choose several files.
     virtual void setAllowsMultipleSelection(bool allows) = 0;
 
     /// The extensions of the files that can be chosen.
@@ -29,8 +31,9 @@ public:
     /// The folder that the panel starts in.
     virtual void setDirectoryURL(const URL& folder) = 0;
 
-    /// Shows the panel as a sheet and returns. The handler is called once, after this has returned, on the
-    /// main thread, with NSOKButton or another result; it and what it holds are kept until then.
+    /// Shows the panel as a sheet of the window, or as the platform does without one, and returns. The
+    /// handler is called once, after this has returned, on the main thread, with NSOKButton or another
+    /// result; it and what it holds are kept until then.
     virtual void beginSheetModalForWindow(Window* window,
                                           std::function<void(std::int64_t result)> completionHandler) = 0;
 
@@ -43,6 +46,7 @@ class OpenPanels {
 public:
     virtual ~OpenPanels() = default;
 
+    /// A panel; never null.
     [[nodiscard]] virtual std::shared_ptr<OpenPanel> openPanel() = 0;
 };
 

@@ -2,7 +2,7 @@
 
 namespace qbsp::platform {
 
-/// The object that stands in for one that is not there: its operations do nothing and answer no, 0 or
+/// The object that stands in for one that is not there: its operations do nothing and return false, 0 or
 /// nothing.
 template <class T>
 [[nodiscard]] T& nullObject();

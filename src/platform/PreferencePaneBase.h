@@ -16,6 +16,7 @@ public:
     /// Creates the platform's side of the pane for its bundle. False when the platform refuses.
     [[nodiscard]] virtual bool initWithBundle() = 0;
 
+    /// The inherited part of these three messages; the pane sends each as the last step of its own.
     virtual void mainViewDidLoad() = 0;
     virtual void willSelect() = 0;
     virtual void willUnselect() = 0;

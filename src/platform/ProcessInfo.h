@@ -9,6 +9,7 @@ class ProcessInfo {
 public:
     virtual ~ProcessInfo() = default;
 
+    /// The name that the process goes by.
     [[nodiscard]] virtual std::string processName() const = 0;
 };
 

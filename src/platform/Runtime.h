@@ -13,7 +13,7 @@ class LoaderClass {
 public:
     virtual ~LoaderClass() = default;
 
-    /// The registrar, which stays the host's; null when it offers none.
+    /// The registrar, which the host owns; null when it offers none.
     [[nodiscard]] virtual QBSPSorterControl* defaultLoader() = 0;
 };
 

@@ -12,7 +12,7 @@ namespace qbsp::platform {
 /// The path with "." and the extension at its end.
 [[nodiscard]] std::string appendingPathExtension(std::string_view path, std::string_view extension);
 
-/// The path without its last component; "/" stays "/", and a lone name leaves nothing.
+/// The path without its last component; "/" stays "/", and of a single name nothing is left.
 [[nodiscard]] std::string deletingLastPathComponent(std::string_view path);
 
 /// The last component, without slashes at its end; "/" for the root.
@@ -29,6 +29,7 @@ public:
 
     [[nodiscard]] const std::string& path() const { return path_; }
 
+    /// The URL of that path with one more component.
     [[nodiscard]] URL appendingPathComponent(std::string_view component) const;
 
     friend bool operator==(const URL&, const URL&) = default;

@@ -25,8 +25,8 @@ struct Date {
 
 using Data = std::vector<std::byte>;
 
-/// A property-list value, or no value. It keeps the kind it was made with, so that what nobody edited is
-/// written back as it was read.
+/// A property-list value, or no value. It keeps the kind it was made with, so that what was not edited
+/// is written back as it was read.
 class Value {
 public:
     using Kind = std::variant<std::monostate, bool, std::int32_t, std::uint32_t, std::int64_t, std::uint64_t,

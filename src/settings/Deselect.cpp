@@ -44,7 +44,7 @@ void QBSPPreferencePane::reportLoginItemFailure(platform::TextKey message,
 void QBSPPreferencePane::announceChangedHotKeys() {
     if (!shouldRestartSorter_ || !editionSorterIsRunning() || !services_.userDefaults.synchronize())
         return;
-    // Inverted, as the Sorter understands it: "visibility" is NO when the tab is to be fully visible.
+    // Inverted, as the Sorter reads it: "visibility" is NO when the tab is to be fully visible.
     const bool visibility = controls.visibilityButton->state() != platform::ButtonState::on;
     platform::Dictionary userInfo;
     userInfo.emplace(visibilityEntry, visibility);
@@ -56,7 +56,9 @@ void QBSPPreferencePane::saveHideList() {
     if (!hideAppsUpdated_)
         return;
     sorterDomain().writeHideFlags(tableArray_.hideFlags());
-    tellRunningSorterOfHideList();
+    notifyRunningSorterOfHideList();
+    // Even when no Sorter was running to be notified: the list is stored, and the Sorter reads it when it
+    // starts.
     hideAppsUpdated_ = false;
 }
 

@@ -7,7 +7,7 @@
 
 namespace qbsp {
 
-void QBSPPreferencePane::tellRunningSorterOfHideList() {
+void QBSPPreferencePane::notifyRunningSorterOfHideList() {
     if (editionSorterIsRunning())
         postToSorter(QBSSorterHideAppUpdated, std::nullopt);
 }

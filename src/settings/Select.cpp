@@ -7,6 +7,8 @@
 namespace qbsp {
 
 void QBSPPreferencePane::willSelect() {
+    // Each combination is set before the pane becomes that recorder's delegate, so that the first selection
+    // cannot come back as a change by the user. Later on it takes a recorder that reports only the user's.
     loadHotKey(clipHotKeyKeys, *controls.clipHotKeyRecorder);
     controls.clipHotKeyRecorder->setDelegate(*this);
     loadHotKey(noteHotKeyKeys, *controls.noteHotKeyRecorder);
@@ -18,7 +20,7 @@ void QBSPPreferencePane::willSelect() {
 }
 
 void QBSPPreferencePane::showLoginItemState() {
-    // In the sandboxed build too, where the check box is hidden: it says what the system says.
+    // In the sandboxed build too, where the check box is hidden: it shows what the system reports.
     const bool on = startsAtLogin();
     controls.showAtLoginCheckbox->setState(on ? platform::ButtonState::on : platform::ButtonState::off);
 }

@@ -8,8 +8,8 @@
 
 namespace qbsp::simulated {
 
-/// A host on the simulated platform: it makes panes, one at a time, and loads their views. What a pane that
-/// was given up still waits for, a delayed message or an open sheet, reaches it all the same.
+/// A host on the simulated platform: it makes panes, one at a time, and loads their views. A delayed message
+/// or an open sheet that a released pane waits for still reaches it.
 class PaneSession {
 public:
     /// The platform must outlive the session.
@@ -18,13 +18,13 @@ public:
     /// Class start-up; it may be sent again.
     void initialize();
 
-    /// Makes a pane, after class start-up where nobody has sent that. False when there is none afterwards.
+    /// Makes a pane, after class start-up unless that was sent before. False when there is none afterwards.
     [[nodiscard]] bool create();
 
     /// Connects fresh controls and sends mainViewDidLoad. There must be a pane without a view.
     void loadView();
 
-    /// Gives the pane up.
+    /// Releases the pane.
     void dealloc();
 
     [[nodiscard]] bool hasPane() const { return pane_ != nullptr; }

@@ -19,25 +19,25 @@ Value rowValue(std::optional<std::size_t> row) {
 
 } // namespace
 
-bool ControlRecord::told(std::string_view selector, std::initializer_list<std::string> arguments) {
+bool ControlRecord::record(std::string_view selector, std::initializer_list<std::string> arguments) {
     const bool works = !transcript_.fails();
-    transcript_.told(field_ + " " + std::string(selector), arguments);
+    transcript_.record(field_ + " " + std::string(selector), arguments);
     return works;
 }
 
-bool ControlRecord::found(std::string_view selector, const std::string& argument, bool there) {
-    const bool answer = !transcript_.fails() && there;
-    transcript_.answered(field_ + " " + std::string(selector), {argument}, json(answer));
-    return answer;
+bool ControlRecord::recordLookup(std::string_view selector, const std::string& argument, bool exists) {
+    const bool found = !transcript_.fails() && exists;
+    transcript_.record(field_ + " " + std::string(selector), {argument}, json(found));
+    return found;
 }
 
 void SimulatedTextField::setHidden(bool hidden) {
-    if (record_.told("setHidden:", {json(hidden)}))
+    if (record_.record("setHidden:", {json(hidden)}))
         hidden_ = hidden;
 }
 
 void SimulatedTextField::setStringValue(std::string_view text) {
-    if (record_.told("setStringValue:", {jsonText(text)}))
+    if (record_.record("setStringValue:", {jsonText(text)}))
         text_ = text;
 }
 
@@ -46,22 +46,22 @@ Dictionary SimulatedTextField::contents() const {
 }
 
 void SimulatedButton::setHidden(bool hidden) {
-    if (record_.told("setHidden:", {json(hidden)}))
+    if (record_.record("setHidden:", {json(hidden)}))
         hidden_ = hidden;
 }
 
 void SimulatedButton::setTitle(std::string_view title) {
-    if (record_.told("setTitle:", {jsonText(title)}))
+    if (record_.record("setTitle:", {jsonText(title)}))
         title_ = title;
 }
 
 void SimulatedButton::setEnabled(bool enabled) {
-    if (record_.told("setEnabled:", {json(enabled)}))
+    if (record_.record("setEnabled:", {json(enabled)}))
         enabled_ = enabled;
 }
 
 void SimulatedButton::setState(platform::ButtonState state) {
-    if (record_.told("setState:", {std::to_string(static_cast<int>(state))}))
+    if (record_.record("setState:", {std::to_string(static_cast<int>(state))}))
         state_ = state;
 }
 
@@ -71,18 +71,18 @@ Dictionary SimulatedButton::contents() const {
 }
 
 void SimulatedRecorder::setHidden(bool hidden) {
-    if (record_.told("setHidden:", {json(hidden)}))
+    if (record_.record("setHidden:", {json(hidden)}))
         hidden_ = hidden;
 }
 
 void SimulatedRecorder::setKeyCombo(const platform::KeyCombo& keyCombo) {
     const Dictionary shown{{"code", keyCombo.code}, {"flags", keyCombo.flags}};
-    if (record_.told("setKeyCombo:", {json(shown)}))
+    if (record_.record("setKeyCombo:", {json(shown)}))
         keyCombo_ = keyCombo;
 }
 
 void SimulatedRecorder::setDelegate(platform::RecorderDelegate& delegate) {
-    if (record_.told("setDelegate:", {}))
+    if (record_.record("setDelegate:", {}))
         delegate_ = &delegate;
 }
 
@@ -94,7 +94,7 @@ Dictionary SimulatedRecorder::contents() const {
 }
 
 void SimulatedColumn::setHeaderStringValue(std::string_view text) {
-    if (table_.told("setHeaderStringValue:", {jsonText(identifier_), jsonText(text)}))
+    if (table_.record("setHeaderStringValue:", {jsonText(identifier_), jsonText(text)}))
         header_ = text;
 }
 
@@ -110,24 +110,25 @@ platform::TableColumn& SimulatedTable::tableColumnWithIdentifier(platform::Colum
     const auto column = std::ranges::find_if(columns_, [&](const SimulatedColumn& candidate) {
         return candidate.identifier() == identifier.text;
     });
-    if (record_.found("tableColumnWithIdentifier:", jsonText(identifier.text), column != columns_.end()))
+    if (record_.recordLookup("tableColumnWithIdentifier:", jsonText(identifier.text),
+                             column != columns_.end()))
         return *column;
     return platform::nullObject<platform::TableColumn>();
 }
 
 void SimulatedTable::reloadData() {
-    if (record_.told("reloadData", {}))
+    if (record_.record("reloadData", {}))
         rows_ = rowCount_();
 }
 
 void SimulatedTable::selectRow(std::size_t row) {
-    if (record_.told("selectRowIndexes:byExtendingSelection:",
-                     {"[" + std::to_string(row) + "]", json(false)}))
+    if (record_.record("selectRowIndexes:byExtendingSelection:",
+                       {"[" + std::to_string(row) + "]", json(false)}))
         selected_ = row;
 }
 
 void SimulatedTable::scrollRowToVisible(std::size_t row) {
-    if (record_.told("scrollRowToVisible:", {std::to_string(row)}))
+    if (record_.record("scrollRowToVisible:", {std::to_string(row)}))
         scrolledTo_ = row;
 }
 

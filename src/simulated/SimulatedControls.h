@@ -11,17 +11,17 @@
 
 namespace qbsp::simulated {
 
-/// What every simulated control has: its field's name, under which it writes down what it was asked.
+/// What every simulated control has: its field's name, under which it records its calls.
 class ControlRecord {
 public:
     ControlRecord(std::string field, Transcript& transcript)
         : field_(std::move(field)), transcript_(transcript) {}
 
-    /// Writes the operation down. False when it fails, and so has no effect.
-    [[nodiscard]] bool told(std::string_view selector, std::initializer_list<std::string> arguments);
+    /// Records the call. False when it fails, and so has no effect.
+    [[nodiscard]] bool record(std::string_view selector, std::initializer_list<std::string> arguments);
 
-    /// The same for an operation that answers whether something was found; answers it.
-    [[nodiscard]] bool found(std::string_view selector, const std::string& argument, bool there);
+    /// Records a lookup. False when it fails or when there is nothing to find.
+    [[nodiscard]] bool recordLookup(std::string_view selector, const std::string& argument, bool exists);
 
 private:
     std::string field_;
@@ -35,7 +35,7 @@ public:
     void setHidden(bool hidden) override;
     void setStringValue(std::string_view text) override;
 
-    /// What the control holds, for whoever looks at the view.
+    /// What the control shows, by name.
     [[nodiscard]] platform::Dictionary contents() const;
 
 private:
@@ -104,7 +104,7 @@ private:
 
 class SimulatedTable final : public platform::TableView {
 public:
-    /// The row count is asked of the data source when the table is reloaded.
+    /// Reloading the table calls rowCount for the data source's number of rows.
     SimulatedTable(std::string field, Transcript& transcript, const std::vector<std::string>& columns,
                    std::function<std::int64_t()> rowCount);
 

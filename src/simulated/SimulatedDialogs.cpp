@@ -14,30 +14,30 @@ public:
     SimulatedAlert(const World& world, Transcript& transcript) : world_(world), transcript_(transcript) {}
 
     void setAlertStyle(platform::AlertStyle style) override {
-        tell("NSAlert setAlertStyle:", std::to_string(static_cast<unsigned>(style)));
+        record("NSAlert setAlertStyle:", std::to_string(static_cast<unsigned>(style)));
     }
 
-    void setMessageText(std::string_view text) override { tell("NSAlert setMessageText:", jsonText(text)); }
+    void setMessageText(std::string_view text) override { record("NSAlert setMessageText:", jsonText(text)); }
 
     void setInformativeText(std::string_view text) override {
-        tell("NSAlert setInformativeText:", jsonText(text));
+        record("NSAlert setInformativeText:", jsonText(text));
     }
 
     void addButtonWithTitle(std::string_view title) override {
-        tell("NSAlert addButtonWithTitle:", jsonText(title));
+        record("NSAlert addButtonWithTitle:", jsonText(title));
     }
 
     std::int64_t runModal() override {
         constexpr std::int64_t stopped = -1000;
-        const std::int64_t answer = transcript_.fails() ? stopped : world_.alertAnswer;
-        transcript_.answered("NSAlert runModal", {}, std::to_string(answer));
-        return answer;
+        const std::int64_t result = transcript_.fails() ? stopped : world_.alertAnswer;
+        transcript_.record("NSAlert runModal", {}, std::to_string(result));
+        return result;
     }
 
 private:
-    void tell(std::string_view operation, const std::string& argument) {
+    void record(std::string_view operation, const std::string& argument) {
         std::ignore = transcript_.fails();
-        transcript_.told(operation, {argument});
+        transcript_.record(operation, {argument});
     }
 
     const World& world_;
@@ -51,34 +51,34 @@ public:
     explicit SimulatedOpenPanel(SimulatedOpenPanels& panels) : panels_(panels) {}
 
     void setCanChooseDirectories(bool canChoose) override {
-        tell("NSOpenPanel setCanChooseDirectories:", {json(canChoose)});
+        record("NSOpenPanel setCanChooseDirectories:", {json(canChoose)});
     }
 
     void setAllowsMultipleSelection(bool allows) override {
-        tell("NSOpenPanel setAllowsMultipleSelection:", {json(allows)});
+        record("NSOpenPanel setAllowsMultipleSelection:", {json(allows)});
     }
 
     void setAllowedFileTypes(const std::vector<std::string>& extensions) override {
         const platform::Array types(extensions.begin(), extensions.end());
-        tell("NSOpenPanel setAllowedFileTypes:", {json(types)});
+        record("NSOpenPanel setAllowedFileTypes:", {json(types)});
     }
 
     void setDirectoryURL(const platform::URL& folder) override {
-        tell("NSOpenPanel setDirectoryURL:", {jsonText(folder.path())});
+        record("NSOpenPanel setDirectoryURL:", {jsonText(folder.path())});
     }
 
     void beginSheetModalForWindow(platform::Window*,
                                   std::function<void(std::int64_t result)> completionHandler) override {
-        tell("NSOpenPanel beginSheetModalForWindow:completionHandler:", {});
+        record("NSOpenPanel beginSheetModalForWindow:completionHandler:", {});
         panels_.handler_ = std::move(completionHandler);
     }
 
     std::optional<platform::URL> chosenURL() const override { return panels_.chosen_; }
 
 private:
-    void tell(std::string_view operation, std::initializer_list<std::string> arguments) {
+    void record(std::string_view operation, std::initializer_list<std::string> arguments) {
         std::ignore = panels_.transcript_.fails();
-        panels_.transcript_.told(operation, arguments);
+        panels_.transcript_.record(operation, arguments);
     }
 
     SimulatedOpenPanels& panels_;

@@ -97,16 +97,16 @@ public:
 
     bool initWithBundle() override;
 
-    void mainViewDidLoad() override { tell("NSPreferencePane mainViewDidLoad"); }
+    void mainViewDidLoad() override { record("NSPreferencePane mainViewDidLoad"); }
 
-    void willSelect() override { tell("NSPreferencePane willSelect"); }
+    void willSelect() override { record("NSPreferencePane willSelect"); }
 
-    void willUnselect() override { tell("NSPreferencePane willUnselect"); }
+    void willUnselect() override { record("NSPreferencePane willUnselect"); }
 
     platform::Window* mainViewWindow() override { return nullptr; }
 
 private:
-    void tell(std::string_view message);
+    void record(std::string_view message);
 
     const World& world_;
     Transcript& transcript_;

@@ -9,8 +9,8 @@ namespace qbsp::simulated {
 void SimulatedRunLoop::performSelectorAfterDelay(platform::Selector selector, std::function<void()> message,
                                                  platform::Seconds delay) {
     std::ignore = transcript_.fails();
-    transcript_.told("pane performSelector:withObject:afterDelay:",
-                     {jsonText(selector.text), "null", json(delay.count())});
+    transcript_.record("pane performSelector:withObject:afterDelay:",
+                       {jsonText(selector.text), "null", json(delay.count())});
     waiting_.emplace(now_ + scenario::Decimal::of(delay.count()), std::move(message));
 }
 

@@ -9,7 +9,7 @@
 
 namespace qbsp::simulated {
 
-/// The main run loop, whose clock stands still until it is told to run on.
+/// The main run loop. Its clock moves only in runFor().
 class SimulatedRunLoop final : public platform::RunLoop {
 public:
     explicit SimulatedRunLoop(Transcript& transcript) : transcript_(transcript) {}
@@ -17,7 +17,7 @@ public:
     void performSelectorAfterDelay(platform::Selector selector, std::function<void()> message,
                                    platform::Seconds delay) override;
 
-    /// Lets that many seconds pass and sends the messages that fall due, the very end included, in order.
+    /// Lets that many seconds pass and sends the messages that fall due by then, in order.
     void runFor(const scenario::Decimal& seconds);
 
 private:

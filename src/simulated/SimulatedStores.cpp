@@ -17,7 +17,7 @@ constexpr const char* anyHost = R"("kCFPreferencesAnyHost")";
 platform::Value SimulatedUserDefaults::objectForKey(platform::DefaultsKey key) const {
     const bool failed = transcript_.fails();
     auto value = failed ? platform::Value() : world_.defaults.value(std::string(key.text));
-    transcript_.answered("NSUserDefaults objectForKey:", {jsonText(key.text)}, json(value));
+    transcript_.record("NSUserDefaults objectForKey:", {jsonText(key.text)}, json(value));
     return value;
 }
 
@@ -33,14 +33,14 @@ void SimulatedUserDefaults::set(const char* operation, const platform::Value& va
                                 platform::DefaultsKey key) {
     if (!transcript_.fails())
         world_.defaults.set(std::string(key.text), value);
-    transcript_.told(operation, {json(value), jsonText(key.text)});
+    transcript_.record(operation, {json(value), jsonText(key.text)});
 }
 
 bool SimulatedUserDefaults::synchronize() {
     const bool works = !transcript_.fails() && world_.synchronizes;
     if (works)
         world_.defaults.synchronize();
-    transcript_.answered("NSUserDefaults synchronize", {}, json(works));
+    transcript_.record("NSUserDefaults synchronize", {}, json(works));
     return works;
 }
 
@@ -48,8 +48,8 @@ void SimulatedPreferences::addSuitePreferencesToApp(platform::ApplicationID appl
                                                     platform::SuiteID suite) {
     std::ignore = transcript_.fails();
     suites_.push_back(application);
-    transcript_.told("CFPreferencesAddSuitePreferencesToApp",
-                     {jsonText(application.text), jsonText(suite.text)});
+    transcript_.record("CFPreferencesAddSuitePreferencesToApp",
+                       {jsonText(application.text), jsonText(suite.text)});
 }
 
 void SimulatedPreferences::removeSuitePreferencesFromApp(platform::ApplicationID application,
@@ -58,15 +58,15 @@ void SimulatedPreferences::removeSuitePreferencesFromApp(platform::ApplicationID
     const auto added = std::ranges::find(suites_, application);
     if (added != suites_.end())
         suites_.erase(added);
-    transcript_.told("CFPreferencesRemoveSuitePreferencesFromApp",
-                     {jsonText(application.text), jsonText(suite.text)});
+    transcript_.record("CFPreferencesRemoveSuitePreferencesFromApp",
+                       {jsonText(application.text), jsonText(suite.text)});
 }
 
 platform::Value SimulatedPreferences::copyAppValue(platform::PreferenceKey key,
                                                    platform::ApplicationID application) const {
     auto value = transcript_.fails() ? platform::Value() : seenBy(application, key);
-    transcript_.answered("CFPreferencesCopyAppValue", {jsonText(key.text), jsonText(application.text)},
-                         json(value));
+    transcript_.record("CFPreferencesCopyAppValue", {jsonText(key.text), jsonText(application.text)},
+                       json(value));
     return value;
 }
 
@@ -83,8 +83,8 @@ void SimulatedPreferences::setAppValue(platform::PreferenceKey key, const platfo
                                        platform::ApplicationID application) {
     if (!transcript_.fails())
         domain(application).set(std::string(key.text), value);
-    transcript_.told("CFPreferencesSetAppValue",
-                     {jsonText(key.text), json(value), jsonText(application.text)});
+    transcript_.record("CFPreferencesSetAppValue",
+                       {jsonText(key.text), json(value), jsonText(application.text)});
 }
 
 void SimulatedPreferences::setValue(platform::PreferenceKey key, const platform::Value& value,
@@ -92,8 +92,8 @@ void SimulatedPreferences::setValue(platform::PreferenceKey key, const platform:
                                     platform::PreferencesHost) {
     if (!transcript_.fails())
         domain(application).set(std::string(key.text), value);
-    transcript_.told("CFPreferencesSetValue",
-                     {jsonText(key.text), json(value), jsonText(application.text), currentUser, anyHost});
+    transcript_.record("CFPreferencesSetValue",
+                       {jsonText(key.text), json(value), jsonText(application.text), currentUser, anyHost});
 }
 
 bool SimulatedPreferences::synchronize(platform::ApplicationID application, platform::PreferencesUser,
@@ -101,7 +101,7 @@ bool SimulatedPreferences::synchronize(platform::ApplicationID application, plat
     const bool works = !transcript_.fails();
     if (works)
         domain(application).synchronize();
-    transcript_.told("CFPreferencesSynchronize", {jsonText(application.text), currentUser, anyHost});
+    transcript_.record("CFPreferencesSynchronize", {jsonText(application.text), currentUser, anyHost});
     return works;
 }
 

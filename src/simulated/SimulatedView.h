@@ -14,8 +14,8 @@ namespace qbsp::simulated {
 /// The pane's view, with a control for each field.
 class SimulatedView {
 public:
-    /// Makes the controls as the world lists columns, and connects all that it does not name as disconnected.
-    /// The view must outlive the pane's use of its controls.
+    /// Makes the controls, the table with the world's columns, and connects those that the world does not
+    /// name as disconnected. The view must outlive the pane's use of its controls.
     SimulatedView(QBSPPreferencePane& pane, const World& world, Transcript& transcript);
 
     /// The check box that a user can set by that field's name; null for any other and an unconnected one.

@@ -16,7 +16,7 @@ public:
 
     bool terminate() override {
         const bool delivered = !transcript_.fails() && world_.terminates;
-        transcript_.answered("NSRunningApplication terminate", {}, json(delivered));
+        transcript_.record("NSRunningApplication terminate", {}, json(delivered));
         return delivered;
     }
 
@@ -25,7 +25,7 @@ private:
     Transcript& transcript_;
 };
 
-/// What a launch that cannot be asked for more reports.
+/// The error of a launch that is made to fail.
 constexpr const char* launchFailure = "The application could not be launched.";
 
 } // namespace
@@ -34,14 +34,14 @@ void SimulatedWorkspace::addObserver(const std::weak_ptr<platform::TerminationOb
                                      platform::NotificationName name) {
     if (!transcript_.fails())
         observers_.push_back(observer);
-    transcript_.told("NSWorkspace addObserver:selector:name:object:",
-                     {jsonText("appDied:"), jsonText(name.text), "null"});
+    transcript_.record("NSWorkspace addObserver:selector:name:object:",
+                       {jsonText("appDied:"), jsonText(name.text), "null"});
 }
 
 void SimulatedWorkspace::removeObserver(const platform::TerminationObserver& observer) {
     std::ignore = transcript_.fails();
     std::erase_if(observers_, [&](const auto& added) { return added.lock().get() == &observer; });
-    transcript_.told("NSWorkspace removeObserver:", {});
+    transcript_.record("NSWorkspace removeObserver:", {});
 }
 
 bool SimulatedWorkspace::report(const platform::TerminationObserver& observer,
@@ -61,16 +61,15 @@ platform::LaunchResult SimulatedWorkspace::launchApplicationAtURL(const platform
     if (!failed && world_.launches)
         result.application = std::make_shared<SimulatedRunningApplication>(world_, transcript_);
     result.error = failed ? std::optional<std::string>(launchFailure) : world_.launchError;
-    transcript_.answered("NSWorkspace launchApplicationAtURL:options:configuration:error:",
-                         {jsonText(url.path()), std::to_string(static_cast<unsigned>(options)), "null"},
-                         "[" + json(result.application != nullptr) + ", " + jsonTextOrNull(result.error) +
-                             "]");
+    transcript_.record("NSWorkspace launchApplicationAtURL:options:configuration:error:",
+                       {jsonText(url.path()), std::to_string(static_cast<unsigned>(options)), "null"},
+                       "[" + json(result.application != nullptr) + ", " + jsonTextOrNull(result.error) + "]");
     return result;
 }
 
 bool SimulatedRunningApplications::applicationIsRunning(platform::BundleIdentifier identifier) const {
     const bool runs = !transcript_.fails() && world_.running.contains(identifier.text);
-    transcript_.answered("QBApplicationIsRunning", {jsonText(identifier.text)}, json(runs));
+    transcript_.record("QBApplicationIsRunning", {jsonText(identifier.text)}, json(runs));
     return runs;
 }
 
@@ -78,22 +77,22 @@ std::int32_t SimulatedLaunchServices::registerURL(const platform::URL& url,
                                                   platform::RegistrationUpdate update) {
     constexpr std::int32_t applicationNotFound = -10814;
     const std::int32_t status = transcript_.fails() ? applicationNotFound : world_.launchServicesStatus;
-    transcript_.answered("LSRegisterURL",
-                         {jsonText(url.path()), json(update == platform::RegistrationUpdate::always)},
-                         std::to_string(status));
+    transcript_.record("LSRegisterURL",
+                       {jsonText(url.path()), json(update == platform::RegistrationUpdate::always)},
+                       std::to_string(status));
     return status;
 }
 
 void SimulatedServiceManagement::loginItemSetEnabled(platform::BundleIdentifier identifier, bool enabled) {
     std::ignore = transcript_.fails();
-    transcript_.told("SMLoginItemSetEnabled", {jsonText(identifier.text), json(enabled)});
+    transcript_.record("SMLoginItemSetEnabled", {jsonText(identifier.text), json(enabled)});
 }
 
 std::optional<std::vector<platform::Dictionary>>
 SimulatedServiceManagement::copyAllJobDictionaries(platform::JobDomain) const {
     auto jobs = transcript_.fails() ? std::nullopt : world_.jobs;
     const auto list = jobs ? platform::Value(platform::Array(jobs->begin(), jobs->end())) : platform::Value();
-    transcript_.answered("SMCopyAllJobDictionaries", {jsonText("kSMDomainUserLaunchd")}, json(list));
+    transcript_.record("SMCopyAllJobDictionaries", {jsonText("kSMDomainUserLaunchd")}, json(list));
     return jobs;
 }
 
@@ -102,9 +101,9 @@ void SimulatedNotificationCenter::postNotificationName(platform::NotificationNam
                                                        const std::optional<platform::Dictionary>& userInfo,
                                                        platform::NotificationOptions options) {
     std::ignore = transcript_.fails();
-    transcript_.told("NSDistributedNotificationCenter postNotificationName:object:userInfo:options:",
-                     {jsonText(name.text), jsonText(object), userInfo ? json(*userInfo) : "null",
-                      std::to_string(static_cast<unsigned>(options))});
+    transcript_.record("NSDistributedNotificationCenter postNotificationName:object:userInfo:options:",
+                       {jsonText(name.text), jsonText(object), userInfo ? json(*userInfo) : "null",
+                        std::to_string(static_cast<unsigned>(options))});
 }
 
 } // namespace qbsp::simulated

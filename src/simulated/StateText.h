@@ -4,10 +4,10 @@
 
 namespace qbsp::simulated {
 
-/// Notes the pane's fields and what its connected controls hold, a line each, in the transcript.
+/// Adds the pane's fields and what its connected controls show to the transcript, a line each.
 void writeState(PaneSession& session);
 
-/// Notes what is stored: the host's defaults, the preferences domains, the property lists on the disk.
+/// Adds what is stored to the transcript: the host's defaults, the preferences domains, the property lists.
 void writeStores(SimulatedPlatform& platform);
 
 } // namespace qbsp::simulated

@@ -16,7 +16,7 @@ public:
     /// Sets a value for this process; no value removes the key.
     void set(const std::string& key, const platform::Value& value);
 
-    /// Sets a value for every process, as another one would.
+    /// Sets a value for every process, as another process does.
     void put(const std::string& key, const platform::Value& value);
 
     void synchronize() { synchronized_ = set_; }

@@ -23,13 +23,13 @@ bool Transcript::fails() {
     return failing_ == operations_;
 }
 
-void Transcript::told(std::string_view operation, std::initializer_list<std::string> arguments) {
+void Transcript::record(std::string_view operation, std::initializer_list<std::string> arguments) {
     note(line(operation, arguments));
 }
 
-void Transcript::answered(std::string_view operation, std::initializer_list<std::string> arguments,
-                          std::string_view answer) {
-    note(line(operation, arguments).append(" -> ").append(answer));
+void Transcript::record(std::string_view operation, std::initializer_list<std::string> arguments,
+                        std::string_view result) {
+    note(line(operation, arguments).append(" -> ").append(result));
 }
 
 void Transcript::failOperation(std::size_t number) {

@@ -9,30 +9,30 @@
 
 namespace qbsp::simulated {
 
-/// Every operation that was asked of the simulated platform, in order, a line each. It also decides which one
-/// fails, so that whatever is asked of the platform can be made to fail.
+/// Every operation of the simulated platform that was called, in order, a line each. It also decides which
+/// call fails, so that each of them can be made to fail.
 class Transcript {
 public:
-    /// True when the operation at hand is the one that fails; asked once at the start of each.
+    /// True when the current operation is the one that fails. Each operation calls this once, at its start.
     [[nodiscard]] bool fails();
 
-    /// Writes an operation down: its receiver and selector, and its arguments as JSON.
-    void told(std::string_view operation, std::initializer_list<std::string> arguments);
+    /// Records a call: the receiver and selector, and the arguments as JSON.
+    void record(std::string_view operation, std::initializer_list<std::string> arguments);
 
-    /// Writes an operation down with its answer as JSON.
-    void answered(std::string_view operation, std::initializer_list<std::string> arguments,
-                  std::string_view answer);
+    /// Records a call with its result as JSON.
+    void record(std::string_view operation, std::initializer_list<std::string> arguments,
+                std::string_view result);
 
-    /// Writes a line that is no operation.
+    /// Adds a line that is no operation.
     void note(std::string line) { lines_.push_back(std::move(line)); }
 
     /// From now on the n-th operation, counted from 1, fails; all others work.
     void failOperation(std::size_t number);
 
-    /// True when the operation that was to fail has come.
+    /// True when the operation that was to fail has been called.
     [[nodiscard]] bool hasFailed() const { return failing_ && operations_ >= *failing_; }
 
-    /// The lines so far, and none of them from now on.
+    /// Returns the lines so far and removes them.
     [[nodiscard]] std::vector<std::string> take();
 
 private:

@@ -18,7 +18,7 @@ namespace qbsp::simulated {
 /// Whether the class that hands out the registrar is in the process, and has one to hand out.
 enum class Loader { present, empty, absent };
 
-/// What the simulated platform answers. Whoever drives it changes it at any time.
+/// What the simulated platform returns. A scenario or a test may change it at any time.
 struct World {
     bool sandboxed = false;
     bool pro = true;

@@ -17,6 +17,8 @@ constexpr platform::Seconds refreshDelay{0.75};
 void QBSPPreferencePane::toggleSorterProcess(Sender) {
     const bool stopped =
         services_.host.isSandboxed() ? switchEmbeddedSorter() : switchSorterThroughRegistrar();
+    // Nothing in the pane makes this request. A caller in the host may, and gets the reset when the Sorter
+    // has been stopped; a start leaves the request waiting.
     if (stopped && deleteFullScreenSettingsInSorter_)
         deleteFullScreenSettings();
     controls.attentionLabel->setHidden(true);
@@ -26,8 +28,8 @@ void QBSPPreferencePane::toggleSorterProcess(Sender) {
         [self = shared_from_this()] { self->updateToggleButtonTitle(); }, refreshDelay);
 }
 
-/// Answers whether that stopped the Sorter. The button stays enabled: a second click within the delay acts on
-/// what then runs, since the system may take longer to switch a login item than the delay is long.
+/// Returns true when that stopped the Sorter. The button stays enabled: a second click within the delay acts
+/// on what then runs, since the system may take longer to switch a login item than the delay is long.
 bool QBSPPreferencePane::switchEmbeddedSorter() {
     auto& loginItems = services_.serviceManagement;
     if (services_.runningApplications.applicationIsRunning(SorterLoginItemIdentifier)) {
@@ -41,7 +43,7 @@ bool QBSPPreferencePane::switchEmbeddedSorter() {
     return false;
 }
 
-/// Answers whether that stopped the Sorter. The button stays disabled until the next refresh.
+/// Returns true when that stopped the Sorter. The button stays disabled until the next refresh.
 bool QBSPPreferencePane::switchSorterThroughRegistrar() {
     controls.toggleLaunchButton->setEnabled(false);
     const bool running = editionSorterIsRunning();

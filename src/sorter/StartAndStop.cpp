@@ -22,7 +22,7 @@ void QBSPPreferencePane::launchEmbeddedSorter() {
     auto launched = services_.workspace.launchApplicationAtURL(embeddedSorterURL(),
                                                                platform::LaunchOptions::withoutActivation);
     sandboxedSorterApp_ = std::move(launched.application);
-    // The reported error decides, not the missing application: a Sorter that ran already may answer none.
+    // The reported error decides, not a missing application: there may be none for a Sorter that ran already.
     if (launched.error)
         services_.log.log("ERROR: Failed to start Sorter: " + *launched.error);
 }
@@ -30,15 +30,17 @@ void QBSPPreferencePane::launchEmbeddedSorter() {
 void QBSPPreferencePane::closeSorterApplication() {
     if (services_.host.isSandboxed()) {
         terminateEmbeddedSorter();
+        // shouldRestartSorter_ stays: the notice that it holds is for the edition's Sorter, which this does
+        // not stop.
         return;
     }
     loginItemRegistrar_->closeSorterApplication();
-    // A Sorter that starts anew reads the changed hot keys by itself.
+    // A Sorter that is started again reads the changed hot keys by itself.
     shouldRestartSorter_ = false;
 }
 
 void QBSPPreferencePane::terminateEmbeddedSorter() {
-    // It is kept after it has ended: asking it again does no harm, and tells when it goes on running.
+    // It is kept after it has ended: asking it to quit again does no harm.
     if (sandboxedSorterApp_ != nullptr && !sandboxedSorterApp_->terminate())
         services_.log.log("ERROR: Unable to stop the Sorter");
 }
