@@ -8,14 +8,14 @@
 
 namespace qbsp {
 
-/// What an operation asked of the platform, for rules about it.
+/// The platform calls that an operation made, for checks on them.
 class Asked {
 public:
     explicit Asked(std::vector<std::string> operations) : operations_(std::move(operations)) {}
 
     [[nodiscard]] const std::vector<std::string>& operations() const { return operations_; }
 
-    /// How many operations begin like that.
+    /// How many calls begin like that.
     [[nodiscard]] std::ptrdiff_t count(std::string_view beginning) const {
         return std::ranges::count_if(operations_,
                                      [&](const std::string& line) { return line.starts_with(beginning); });
@@ -28,7 +28,7 @@ public:
         return count(std::string(post) + "(\"" + std::string(name));
     }
 
-    /// True when every operation that begins like one of these comes after all that begin like one before it.
+    /// True when the calls that begin like these came in this order.
     [[nodiscard]] bool areInOrder(const std::vector<std::string_view>& beginnings) const {
         std::size_t reached = 0;
         for (const std::string& line : operations_)

@@ -7,10 +7,10 @@
 
 namespace qbsp {
 
-/// What holds of a pane before and after anything that is asked of it, whatever the platform answers.
+/// What is true of a pane before and after each of its operations, whatever the platform returns.
 class Invariants {
 public:
-    /// Remembers how things are.
+    /// Remembers the present state.
     explicit Invariants(Stage& stage)
         : stage_(stage), restart_(stage.pane().shouldRestartSorter()),
           deleteSettings_(stage.pane().deleteFullScreenSettingsInSorter()),
@@ -19,7 +19,7 @@ public:
             domains_[sorter] = stage.world.domains[sorter].contents();
     }
 
-    /// Checks them after something that asked this of the platform.
+    /// Checks them after an operation that made these calls.
     void check(const Asked& asked) {
         EXPECT_EQ(stage_.platform.preferences.openSuites(), 0U);
         checkPosts(asked.operations());
@@ -30,7 +30,7 @@ public:
     }
 
 private:
-    /// Nothing is posted behind a gate that is closed: the line before a notice is its gate's answer.
+    /// Nothing is posted unless the call before it allowed it: that call decides on the notice.
     static void checkPosts(const std::vector<std::string>& lines) {
         for (std::size_t i = 0; i < lines.size(); ++i) {
             if (!lines[i].starts_with(Asked::post))
@@ -47,7 +47,7 @@ private:
         }
     }
 
-    /// A flag falls only where its work was done.
+    /// A flag is cleared only when what it stands for was done.
     void checkFlags(const Asked& asked) const {
         const QBSPPreferencePane& pane = stage_.pane();
         if (restart_ && !pane.shouldRestartSorter()) {
@@ -67,7 +67,7 @@ private:
         }
     }
 
-    /// Of the host's defaults nothing changes but hot keys.
+    /// In the host's defaults nothing changes but hot keys.
     void checkDefaults() const {
         for (const auto& [key, value] : defaults_) {
             const platform::Value now = stage_.world.defaults.value(key);
@@ -76,7 +76,7 @@ private:
         }
     }
 
-    /// Of a Sorter's domain nothing changes but the list, and that only by writing it.
+    /// In a Sorter's domain nothing changes but the list, and that only by writing it.
     void checkDomain(const char* sorter, const Asked& asked) {
         const bool written = asked.has("CFPreferencesSet");
         for (const auto& [key, value] : domains_[sorter]) {

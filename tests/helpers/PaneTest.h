@@ -6,7 +6,7 @@
 
 namespace qbsp {
 
-/// A test of the pane on the simulated platform. None may leave a suite added.
+/// A test of the pane on the simulated platform. It fails when it leaves a suite added.
 class PaneTest : public testing::Test, protected Stage {
 protected:
     void TearDown() override {

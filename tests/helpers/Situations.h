@@ -49,9 +49,9 @@ inline std::ostream& operator<<(std::ostream& out, const Situation& s) {
                << " login " << static_cast<int>(s.login) << " visibility " << static_cast<int>(s.visibility);
 }
 
-/// A pane that is brought into one situation after another, as long as they differ only in what runs and in
-/// the check boxes. Each edition's domain holds a list of one row, off; where the list is marked as changed,
-/// the row was ticked.
+/// A pane that is put into one situation after another, which may differ in what runs and in the check boxes.
+/// Each edition's domain holds a list of one row, off; where the list is marked as changed, the row was
+/// ticked.
 class SituatedPane : public Stage {
 public:
     explicit SituatedPane(const Situation& s) {
@@ -93,7 +93,7 @@ private:
     }
 };
 
-/// Whether the two check boxes are varied each by itself, or both together where neither is read.
+/// Whether the two check boxes vary independently, or together where neither is read.
 enum class CheckBoxes { each, together };
 
 /// Calls visit with the situation's every combination of what runs and what the check boxes show.

@@ -17,7 +17,7 @@ inline constexpr const char* embedded = "Z3K8WQ4N7P.quarry2.QuarrybookSorter";
 
 inline constexpr const char* hideListKey = "UserSpecifiedFullScreenApplications";
 
-/// What transcript() is when nothing was asked of the platform.
+/// What transcript() returns when no platform call was made.
 inline constexpr const char* nothing = "\n";
 
 /// A simulated platform with a host on it, and short paths: the registrar's code, and the Sorters beside it,
@@ -35,27 +35,27 @@ public:
 
     [[nodiscard]] const PaneControls& controls() const { return pane().controls; }
 
-    /// Makes a pane. What that asked of the platform is forgotten.
+    /// Makes a pane. The calls that this makes are forgotten.
     void createPane() {
         std::ignore = session.create();
         forget();
     }
 
-    /// Makes a pane with a view. What that asked of the platform is forgotten.
+    /// Makes a pane with a view. The calls that this makes are forgotten.
     void loadView() {
         createPane();
         session.loadView();
         forget();
     }
 
-    /// Makes a pane with a view and shows it. What that asked of the platform is forgotten.
+    /// Makes a pane with a view and shows it. The calls that this makes are forgotten.
     void select() {
         loadView();
         pane().willSelect();
         forget();
     }
 
-    /// Leaves the pane. What that asked of the platform is forgotten.
+    /// Leaves the pane. The calls that this makes are forgotten.
     void unselect() {
         pane().willUnselect();
         forget();
@@ -69,7 +69,7 @@ public:
         return world.domains[sorter].value(hideListKey);
     }
 
-    /// The user ticks that row, or takes the tick away.
+    /// The user sets or clears the tick of that row.
     void editRow(std::int32_t row, bool hide) {
         pane().tableViewSetObjectValueForTableColumnRow(
             *controls().hideAppsTable, std::int32_t{hide},
@@ -80,23 +80,23 @@ public:
     /// Lets the clock run on by so many seconds.
     void wait(const char* seconds) { platform.runLoop.runFor(*scenario::Decimal::parse(seconds)); }
 
-    /// What every connected control holds, by its field.
+    /// What every connected control shows, by its field.
     [[nodiscard]] std::map<std::string, platform::Dictionary> controlContents() const {
         const auto contents = session.view()->contents();
         return {contents.begin(), contents.end()};
     }
 
-    /// What the control of that field holds under that name.
+    /// What the control of that field shows under that name.
     [[nodiscard]] platform::Value shown(const std::string& field, const std::string& name) const {
         return platform::entry(controlContents().at(field), name);
     }
 
-    /// The operations asked of the platform since they were last looked at or forgotten.
+    /// The platform calls since they were last read or forgotten.
     [[nodiscard]] std::vector<std::string> operations() { return platform.transcript.take(); }
 
     void forget() { std::ignore = operations(); }
 
-    /// The same as one text, a line each, that begins with an empty line.
+    /// The same as one text: an empty line, then a line for each call.
     [[nodiscard]] std::string transcript() {
         std::string text = "\n";
         for (const std::string& line : operations())

@@ -22,7 +22,7 @@ public:
     std::function<void(std::string_view name)> posted;
 };
 
-/// Calls back when the table is asked for anything.
+/// Calls back at every message to the table.
 class WatchedTable final : public platform::TableView {
 public:
     platform::TableColumn& tableColumnWithIdentifier(platform::ColumnIdentifier) override {
@@ -64,7 +64,7 @@ public:
     std::function<void()> logged;
 };
 
-/// Calls back when it is to stop the Sorter.
+/// Calls back when it is asked to stop the Sorter.
 class WatchedRegistrar final : public QBSPSorterControl {
 public:
     bool applicationIsRegistered(const std::optional<platform::URL>&) override { return false; }

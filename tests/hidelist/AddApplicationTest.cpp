@@ -77,7 +77,7 @@ TEST_F(AddApplication, TakesTheNameFromTheBundleAndNotFromTheFile) {
     EXPECT_EQ(pane().indexOfAppInList("Chosen"), -1);
 }
 
-TEST_F(AddApplication, AddsABundleThatHasGoneUnderItsFilesName) {
+TEST_F(AddApplication, AddsABundleThatIsGoneUnderItsFileName) {
     select();
 
     choose();
@@ -98,7 +98,7 @@ NSDictionary dictionaryWithContentsOfFile:("/Applications/Chosen.app/Contents/In
     EXPECT_FALSE(pane().hideAppsUpdated());
 }
 
-TEST_F(AddApplication, SelectsTheRowThatBearsTheNameInAnotherCase) {
+TEST_F(AddApplication, SelectsTheRowWhoseNameDiffersOnlyInCase) {
     select();
     putInfo({{"CFBundleExecutable", "ZEBRA"}});
 
@@ -121,7 +121,7 @@ TEST_F(AddApplication, SelectsTheFirstRowToo) {
     choose();
 
     EXPECT_EQ(shown("hideAppsTable", "selected"), platform::Array{std::int64_t{0}});
-    EXPECT_EQ(pane().tableArray().records().size(), 2U);
+    EXPECT_EQ(pane().tableArray().records().size(), 2U) << "a row was added";
 }
 
 TEST_F(AddApplication, LeavesAnEarlierChangeMarkedWhenTheNameIsThere) {
@@ -182,7 +182,7 @@ TEST_F(AddApplication, WritesNothingBeforeThePaneIsLeft) {
     EXPECT_EQ(hideList(full), (platform::Dictionary{{"apple", true}, {"Chosen", false}, {"Zebra", false}}));
 }
 
-TEST_F(AddApplication, ReachesAPaneThatWasGivenUpMeanwhile) {
+TEST_F(AddApplication, ReachesAPaneThatWasReleasedMeanwhile) {
     select();
     add();
 

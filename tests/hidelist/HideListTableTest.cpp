@@ -56,7 +56,7 @@ TEST_F(HideListLoading, LeavesNoListWhereNoneIsStored) {
     EXPECT_EQ(pane().numberOfRowsInTableView(*controls().hideAppsTable), 0);
 }
 
-TEST_F(HideListLoading, KeepsTheRowsWhenTheStoredListHasGone) {
+TEST_F(HideListLoading, KeepsTheRowsWhenTheStoredListIsGone) {
     storeHideList(full, platform::Dictionary{{"Mail", true}});
     select();
     storeHideList(full, {});
@@ -158,7 +158,7 @@ TEST_F(HideListTable, ShowsARecordWithoutAFlagAsZero) {
     EXPECT_EQ(valueAt("2", 2), std::int32_t{0});
 }
 
-TEST_F(HideListTable, AsksThePlatformNothing) {
+TEST_F(HideListTable, MakesNoPlatformCall) {
     std::ignore = valueAt("1", 0);
     setValueAt("2", 0, 1);
 
@@ -213,7 +213,7 @@ TEST_F(HideListTable, RefusesRowsOutsideTheList) {
     EXPECT_FALSE(pane().hideAppsUpdated());
 }
 
-TEST_F(HideListTable, FindsNamesIgnoringCaseAndAnswersMinusOneOtherwise) {
+TEST_F(HideListTable, FindsNamesIgnoringCaseAndReturnsMinusOneOtherwise) {
     EXPECT_EQ(pane().indexOfAppInList("MANGO"), 1);
     EXPECT_EQ(pane().indexOfAppInList("Papaya"), -1);
 }

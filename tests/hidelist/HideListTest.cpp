@@ -39,7 +39,7 @@ TEST(HideList, DoesNotExistBeforeItsFirstLoad) {
     EXPECT_EQ(list.hideFlags(), platform::Dictionary{});
 }
 
-TEST(HideList, ExistsAlsoWhenAnEmptyListWasLoaded) {
+TEST(HideList, ExistsEvenWhenAnEmptyListWasLoaded) {
     EXPECT_TRUE(listOf({}).exists());
 }
 
@@ -56,7 +56,7 @@ TEST(HideList, IsSortedByCharactersAndNotByBytes) {
     EXPECT_EQ(names(list).back(), "Être");
 }
 
-TEST(HideList, KeepsTheOrderOfNamesThatDifferInCaseAlone) {
+TEST(HideList, KeepsTheOrderOfNamesThatDifferOnlyInCase) {
     platform::Dictionary stored;
     for (unsigned capitals = 0; capitals < 64; ++capitals) {
         std::string name = "reader";
@@ -106,7 +106,7 @@ TEST(HideList, NeitherTrimsNorNormalisesWhatItSearches) {
     EXPECT_EQ(list.indexOf("Mai"), -1);
 }
 
-TEST(HideList, AnswersMinusOneForANameThatIsNotThere) {
+TEST(HideList, ReturnsMinusOneForANameThatIsNotThere) {
     EXPECT_EQ(HideList::notFound, -1);
     EXPECT_EQ(HideList(comparison).indexOf("Mail"), -1);
     EXPECT_EQ(listOf({}).indexOf(""), -1);
@@ -150,7 +150,7 @@ TEST(HideList, IsEmptiedButGoesOnExisting) {
     EXPECT_TRUE(list.records().empty());
 }
 
-TEST(HideList, IsNotMadeByEmptyingIt) {
+TEST(HideList, IsNotCreatedByEmptyingIt) {
     HideList list(comparison);
 
     list.removeAll();

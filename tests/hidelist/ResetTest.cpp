@@ -10,7 +10,7 @@ protected:
     }
 };
 
-TEST_F(Reset, WritesTheFactoryListTellsTheSorterAndShowsIt) {
+TEST_F(Reset, WritesTheFactoryListNotifiesTheSorterAndShowsTheList) {
     putFactoryList("Quarrybook Sorter", platform::Dictionary{{"Player", true}, {"mail", false}});
     storeHideList(full, platform::Dictionary{{"Zebra", true}});
     world.running.insert(full);
@@ -37,7 +37,7 @@ hideAppsTable reloadData()
     EXPECT_EQ(shown("hideAppsTable", "rows"), std::int64_t{2});
 }
 
-TEST_F(Reset, IsTheButtonsWorkAndNothingMore) {
+TEST_F(Reset, IsAllThatTheButtonDoes) {
     select();
 
     pane().deleteFullScreenSettings();
@@ -143,7 +143,7 @@ TEST_F(Reset, LooksBesideTheHostsCodeInTheSandboxedHost) {
         R"(NSDictionary dictionaryWithContentsOfFile:("/Host/Quarrybook Sorter.app/Contents/Resources/FactoryDefaults.plist") -> null)");
 }
 
-TEST_F(Reset, ReadsNoFileWhereNoClassHasNoCode) {
+TEST_F(Reset, ReadsNoFileWithoutARegistrarAndAnExecutable) {
     world.loader = simulated::Loader::absent;
     world.noClassExecutable = std::nullopt;
     select();
@@ -164,7 +164,7 @@ TEST_F(Reset, WritesAFactoryValueOfAnyKindAsItIs) {
     EXPECT_TRUE(pane().tableArray().records().empty());
 }
 
-TEST_F(Reset, TakesUnsavedRowsAwayAndLeavesThemMarkedAsChanged) {
+TEST_F(Reset, RemovesUnsavedRowsAndLeavesTheListMarkedAsChanged) {
     storeHideList(full, platform::Dictionary{{"Mail", true}});
     putFactoryList("Quarrybook Sorter", platform::Dictionary{{"Player", true}});
     select();

@@ -6,7 +6,7 @@ class HotKeyConflict : public PaneTest {
 protected:
     HotKeyConflict() { loadView(); }
 
-    /// Whether the pane refuses the combination to the recorder; the reason is the pane's.
+    /// True when the pane refuses the combination to the recorder; stores its reason in `reason`.
     bool refuses(const platform::Outlet<platform::RecorderControl>& recorder, std::int64_t code,
                  platform::CocoaFlags flags) {
         return pane().shortcutRecorderIsKeyCodeAndFlagsTakenReason(*recorder, code, flags, &reason);

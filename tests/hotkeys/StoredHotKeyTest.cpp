@@ -48,11 +48,11 @@ TEST(StoredHotKey, IsShownWithCocoasModifiers) {
     EXPECT_EQ(hotKey.keyCombo(), (platform::KeyCombo{0x180000, 45}));
 }
 
-TEST(StoredHotKey, MatchesTheVeryCombination) {
+TEST(StoredHotKey, MatchesExactlyItsCombination) {
     const StoredHotKey hotKey{45, 0x900};
 
     EXPECT_TRUE(hotKey.matches(45, 0x180000));
-    EXPECT_TRUE(hotKey.matches(45, 0x190000)) << "Caps Lock counts for nothing";
+    EXPECT_TRUE(hotKey.matches(45, 0x190000)) << "Caps Lock is ignored";
     EXPECT_FALSE(hotKey.matches(44, 0x180000));
     EXPECT_FALSE(hotKey.matches(45, 0x100000));
     EXPECT_FALSE(hotKey.matches(45 + 65536, 0x180000));

@@ -56,7 +56,7 @@ TEST_F(FlagTiming, ClearsTheRestartOnlyOnceTheNoticeIsOut) {
 
     watched->willUnselect();
 
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(calls, 1) << "one notice";
     EXPECT_FALSE(watched->shouldRestartSorter());
 }
 
@@ -69,7 +69,7 @@ TEST_F(FlagTiming, ClearsTheChangeOfTheListOnlyOnceTheNoticeIsOut) {
 
     watched->willUnselect();
 
-    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(calls, 2) << "the notices of the hot key and of the list";
     EXPECT_FALSE(watched->hideAppsUpdated());
 }
 
@@ -82,7 +82,7 @@ TEST_F(FlagTiming, RaisesTheRestartOnlyOnceAChangedHotKeyIsAnnounced) {
 
     watched->shortcutRecorderKeyComboDidChange(*watched->controls.noteHotKeyRecorder, {0, 45});
 
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(calls, 1) << "one notice";
     EXPECT_TRUE(watched->shouldRestartSorter());
 }
 
@@ -97,7 +97,7 @@ TEST_F(FlagTiming, MarksTheListAsChangedOnlyOnceAnAdditionIsShown) {
     watched->addHideApp(nullptr);
     platform.openPanels.endSheet(platform::NSOKButton, "/Applications/Player.app");
 
-    EXPECT_EQ(calls, 3);
+    EXPECT_EQ(calls, 3) << "reloaded, selected and scrolled";
     EXPECT_TRUE(watched->hideAppsUpdated());
 }
 
@@ -113,11 +113,11 @@ TEST_F(FlagTiming, ClearsTheResetRequestOnlyOnceTheTableIsReloaded) {
 
     watched->deleteFullScreenSettings();
 
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(calls, 1) << "reloaded once, since no list is stored";
     EXPECT_FALSE(watched->deleteFullScreenSettingsInSorter());
 }
 
-TEST_F(FlagTiming, TellsTheSorterOfAResetBeforeTheRowsGo) {
+TEST_F(FlagTiming, NotifiesTheSorterOfAResetBeforeTheRowsAreRemoved) {
     watched->mainViewDidLoad();
     watched->willSelect();
     center.posted = [&](std::string_view) {
@@ -127,7 +127,7 @@ TEST_F(FlagTiming, TellsTheSorterOfAResetBeforeTheRowsGo) {
 
     watched->deleteFullScreenSettings();
 
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(calls, 1) << "one notice";
     EXPECT_EQ(watched->numberOfRowsInTableView(table), 0);
 }
 
@@ -146,7 +146,7 @@ TEST_F(FlagTiming, MarksTheListAsUnchangedBetweenTheTextsAndTheHeaders) {
 
     watched->mainViewDidLoad();
 
-    EXPECT_EQ(calls, 3);
+    EXPECT_EQ(calls, 3) << "the last title and two headers";
 }
 
 TEST_F(FlagTiming, ForgetsTheRestartOnlyOnceTheRegistrarWasAskedToStop) {
@@ -159,7 +159,7 @@ TEST_F(FlagTiming, ForgetsTheRestartOnlyOnceTheRegistrarWasAskedToStop) {
 
     watched->closeSorterApplication();
 
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(calls, 1) << "one request";
     EXPECT_FALSE(watched->shouldRestartSorter());
 }
 
@@ -173,7 +173,7 @@ TEST_F(FlagTiming, KeepsTheLaunchedSorterBeforeItsErrorIsLogged) {
 
     watched->showSorterApplication();
 
-    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(calls, 1) << "one line";
 }
 
 } // namespace qbsp

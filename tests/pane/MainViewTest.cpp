@@ -10,7 +10,7 @@ protected:
         session.loadView();
     }
 
-    /// The operations that hide something.
+    /// The calls that hide something.
     std::vector<std::string> hidings() {
         std::vector<std::string> all = operations();
         std::erase_if(all,
@@ -65,7 +65,7 @@ TEST_F(MainView, HidesOnlyTheRestartNoticeInTheOrdinaryHost) {
     EXPECT_EQ(hidings(), std::vector<std::string>{"attentionLabel setHidden:(true)"});
 }
 
-TEST_F(MainView, HidesWhatTheSandboxedHostHasNoUseForInThisOrder) {
+TEST_F(MainView, HidesTheControlsUnusedInTheSandboxedHostInThisOrder) {
     world.sandboxed = true;
 
     setUpView();
@@ -87,7 +87,7 @@ TEST_F(MainView, HidesBetweenTheHeadersAndTheObserver) {
     EXPECT_EQ(asked.at(asked.size() - 1), "NSPreferencePane mainViewDidLoad()");
 }
 
-TEST_F(MainView, GivesHiddenControlsTheirTextsAllTheSame) {
+TEST_F(MainView, GivesHiddenControlsTheirTextsToo) {
     world.sandboxed = true;
 
     setUpView();

@@ -4,7 +4,7 @@ namespace qbsp {
 
 class PaneCreation : public PaneTest {
 protected:
-    /// Creates a pane in a host whose class start-up was long ago.
+    /// Creates a pane in a host that sent class start-up before.
     bool create() {
         session.initialize();
         forget();
@@ -115,7 +115,7 @@ TEST_F(PaneCreation, LeavesEveryFieldNullOrNo) {
 
 using Teardown = PaneTest;
 
-TEST_F(Teardown, AsksNothingOfThePlatformEvenWithoutAView) {
+TEST_F(Teardown, MakesNoPlatformCallEvenWithoutAView) {
     createPane();
 
     session.dealloc();
@@ -123,7 +123,7 @@ TEST_F(Teardown, AsksNothingOfThePlatformEvenWithoutAView) {
     EXPECT_EQ(transcript(), nothing);
 }
 
-TEST_F(Teardown, LeavesTheObserverWhereItIs) {
+TEST_F(Teardown, LeavesTheObserverAdded) {
     select();
 
     session.dealloc();

@@ -39,7 +39,7 @@ TEST_F(Properties, CanRequestAResetAndTakeTheRequestBack) {
     EXPECT_FALSE(pane().deleteFullScreenSettingsInSorter());
 }
 
-TEST_F(Properties, KeepTheSortersPlaceWholeWhileAnotherThreadSetsIt) {
+TEST_F(Properties, KeepTheSortersLocationIntactWhileAnotherThreadSetsIt) {
     const auto here = platform::URL::fileURLWithPath("/A folder whose name is long/Quarrybook Sorter.app");
     const auto there = platform::URL::fileURLWithPath("/Another/Sorter.app");
     createPane();

@@ -39,14 +39,14 @@ TEST_F(SorterLocation, IsTheSameForBothEditionsInTheSandboxedHost) {
     EXPECT_EQ(sorterPath(), ofFull);
 }
 
-TEST_F(SorterLocation, IsBesideTheCodeOfNoClassWithoutRegistrar) {
+TEST_F(SorterLocation, IsBesideTheExecutableReportedForNoClassWithoutARegistrar) {
     world.loader = simulated::Loader::absent;
     world.noClassExecutable = "/Host/Quarrybook";
 
     EXPECT_EQ(sorterPath(), "/Host/Quarrybook Sorter.app");
 }
 
-TEST_F(SorterLocation, IsNoneWhenNoClassHasNoCode) {
+TEST_F(SorterLocation, IsNoneWithoutARegistrarAndAnExecutable) {
     world.loader = simulated::Loader::empty;
     world.noClassExecutable = std::nullopt;
 
@@ -76,7 +76,7 @@ TEST_F(SorterLocation, AsksForTheEditionBeforeTheSandbox) {
     EXPECT_EQ(asked.at(2), R"(NSBundle executablePath("registrar") -> "/PlugIn/SorterPlugin")");
 }
 
-TEST_F(SorterLocation, NeedsNoCodeOfAClassInTheSandboxedHost) {
+TEST_F(SorterLocation, LooksForNoExecutableInTheSandboxedHost) {
     world.sandboxed = true;
     createPane();
 

@@ -24,7 +24,7 @@ TEST(Outlet, LeadsToWhatItIsConnectedTo) {
     EXPECT_EQ(&*outlet, &button);
 }
 
-TEST(NullControls, TakeEveryMessageAndAnswerNothing) {
+TEST(NullControls, IgnoreEveryMessage) {
     const Outlet<Button> button;
     button->setHidden(true);
     button->setTitle("title");
@@ -41,7 +41,7 @@ TEST(NullControls, TakeEveryMessageAndAnswerNothing) {
     recorder->setKeyCombo({});
 }
 
-TEST(NullTable, HasOnlyAColumnThatKeepsNothing) {
+TEST(NullTable, HasOnlyAColumnThatIgnoresEveryMessage) {
     const Outlet<TableView> table;
     table->reloadData();
     table->selectRow(3);

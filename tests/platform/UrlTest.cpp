@@ -11,7 +11,7 @@ TEST(PathComponents, AreAppendedWithExactlyOneSlash) {
     EXPECT_EQ(appendingPathComponent("", "b"), "b");
 }
 
-TEST(PathComponents, LoseTheirLast) {
+TEST(PathComponents, CanLoseTheLast) {
     EXPECT_EQ(deletingLastPathComponent("/a/b"), "/a");
     EXPECT_EQ(deletingLastPathComponent("/a/b/"), "/a");
     EXPECT_EQ(deletingLastPathComponent("/a"), "/");
@@ -30,7 +30,7 @@ TEST(PathComponents, EndWithTheLastWhateverSlashesFollow) {
     EXPECT_EQ(lastPathComponent(""), "");
 }
 
-TEST(PathExtension, IsAppendedBehindADot) {
+TEST(PathExtension, IsAppendedAfterADot) {
     EXPECT_EQ(appendingPathExtension("/a/Quarrybook Sorter", "app"), "/a/Quarrybook Sorter.app");
 }
 

@@ -23,7 +23,7 @@ bool boolOf(const char* text) {
 
 } // namespace
 
-TEST(Value, IsNoneAtFirst) {
+TEST(Value, IsAbsentAtFirst) {
     EXPECT_FALSE(Value().exists());
     EXPECT_EQ(Value().intValue(), 0);
     EXPECT_EQ(Value().unsignedIntValue(), 0U);
@@ -42,7 +42,7 @@ TEST(Value, KeepsItsKind) {
     EXPECT_EQ(Value(Data{std::byte{1}}), Value(Data{std::byte{1}}));
 }
 
-TEST(Value, IsGivenAsItsOwnKindOnly) {
+TEST(Value, IsReturnedOnlyAsItsOwnKind) {
     const Value value = Dictionary{{"a", 1}};
 
     EXPECT_NE(value.as<Dictionary>(), nullptr);
@@ -96,18 +96,18 @@ TEST(IntValue, OfATextIsWhatItsDigitsSay) {
     EXPECT_EQ(intOf("12e3"), 12);
 }
 
-TEST(IntValue, OfATextWithoutDigitsInFrontIsZero) {
+TEST(IntValue, OfATextThatDoesNotBeginWithDigitsIsZero) {
     for (const char* const text : {"", " ", "-", "+", "keys", "- 7", "--7", "+-7", "YES", "\t7", "x7"})
         EXPECT_EQ(intOf(text), 0) << text;
 }
 
-TEST(IntValue, OfATextEndsAtWhatIsNoDigit) {
+TEST(IntValue, OfATextEndsAtTheFirstOtherCharacter) {
     EXPECT_EQ(intOf("1_2"), 1);
     EXPECT_EQ(intOf("_5"), 0);
     EXPECT_EQ(intOf("-_5"), 0);
 }
 
-TEST(IntValue, OfATextIsHeldWithin32Bits) {
+TEST(IntValue, OfATextIsClampedTo32Bits) {
     EXPECT_EQ(intOf("2147483647"), highest32);
     EXPECT_EQ(intOf("2147483648"), highest32);
     EXPECT_EQ(intOf("99999999999999999999999999"), highest32);
@@ -160,7 +160,7 @@ TEST(BoolValue, OfAnyOtherTextIsFalse) {
         EXPECT_FALSE(boolOf(text)) << text;
 }
 
-TEST(BoolValue, OfATextIsFalseWhenSomethingElseStandsInFront) {
+TEST(BoolValue, OfATextIsFalseWhenItBeginsWithSomethingElse) {
     for (const char* text : {"_", "_1", "_Y", "-_1", "0_1", "+_1"})
         EXPECT_FALSE(boolOf(text)) << text;
 }

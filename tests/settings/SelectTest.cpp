@@ -124,7 +124,7 @@ TEST_F(Select, FollowsTheJobInTheSandboxedHostAlthoughTheBoxIsHidden) {
     EXPECT_EQ(shown("showAtLoginCheckbox", "hidden"), true);
 }
 
-TEST_F(Select, TakesATickAwayThatTheSystemDoesNotConfirm) {
+TEST_F(Select, ClearsATickThatTheSystemDoesNotConfirm) {
     world.registered = true;
     select();
     world.registered = false;

@@ -45,7 +45,7 @@ CFPreferencesRemoveSuitePreferencesFromApp("com.quarrybook.SoloSorter", "kCFPref
 )");
 }
 
-TEST_F(SorterDomainAccess, RemovesTheSuiteAlsoWhenAnAccessFails) {
+TEST_F(SorterDomainAccess, RemovesTheSuiteEvenWhenAnAccessFails) {
     for (std::size_t number = 1; number <= 4; ++number) {
         platform.transcript.failOperation(number);
 

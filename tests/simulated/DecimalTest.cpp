@@ -26,7 +26,7 @@ protected:
     std::string sent;
 };
 
-TEST_F(SimulatedClock, SendsWhatFallsDueTheVeryEndIncluded) {
+TEST_F(SimulatedClock, SendsWhatFallsDueByTheEndOfTheTime) {
     send("a", 0.75);
 
     platform.runLoop.runFor(decimal("0.7"));

@@ -45,7 +45,7 @@ TEST(LoginItemJobs, HideLaterOnesOfTheSameLabel) {
     EXPECT_TRUE(jobIsOnDemand({job("com.example.Item", true), job("com.example.Item", false)}, exampleLabel));
 }
 
-TEST(LoginItemJobs, AreFoundBehindOthers) {
+TEST(LoginItemJobs, AreFoundAfterOthers) {
     EXPECT_TRUE(jobIsOnDemand({job("a", false), job(7, false), job("com.example.Item", true)}, exampleLabel));
 }
 

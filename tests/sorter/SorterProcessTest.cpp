@@ -50,7 +50,7 @@ TEST_F(SorterProcess, OfTheSoloEditionIsTheSoloSorter) {
     EXPECT_EQ(operations().at(2), R"(QBApplicationIsRunning("com.quarrybook.SoloSorter") -> false)");
 }
 
-TEST_F(SorterProcess, IsStartedBehindAStaleTitle) {
+TEST_F(SorterProcess, IsStartedDespiteAStaleTitle) {
     world.running.insert(full);
     select();
     world.running.clear();
@@ -107,7 +107,7 @@ TEST_F(SorterProcess, KeepsItsTitleAfterAClickWithoutARegistrar) {
     EXPECT_EQ(shown("toggleLaunchButton", "enabled"), true);
 }
 
-TEST_F(SorterProcess, IsToldAsRunningWhileItTakesLongerToQuitThanTheRefreshWaits) {
+TEST_F(SorterProcess, IsShownAsRunningWhenItTakesLongerToQuitThanTheRefreshWaits) {
     world.running.insert(full);
     select();
     pane().toggleSorterProcess(nullptr);
@@ -120,7 +120,7 @@ TEST_F(SorterProcess, IsToldAsRunningWhileItTakesLongerToQuitThanTheRefreshWaits
     EXPECT_EQ(shown("toggleLaunchButton", "title"), "Show");
 }
 
-TEST_F(SorterProcess, IsStartedAlsoWhenTheDefaultsCannotBeFlushed) {
+TEST_F(SorterProcess, IsStartedEvenWhenTheDefaultsCannotBeFlushed) {
     world.synchronizes = false;
     select();
 
@@ -170,7 +170,7 @@ TEST_F(SorterProcess, IsFollowedByNoResetWhenItStarts) {
     EXPECT_TRUE(pane().deleteFullScreenSettingsInSorter());
 }
 
-TEST_F(SorterProcess, IsFollowedByNoResetThatNobodyAskedFor) {
+TEST_F(SorterProcess, IsFollowedByNoResetThatNobodyRequested) {
     world.running.insert(full);
     select();
 

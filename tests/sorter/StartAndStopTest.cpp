@@ -30,7 +30,7 @@ registrar closeSorterApplication()
     EXPECT_FALSE(pane().shouldRestartSorter());
 }
 
-TEST_F(StartAndStop, ForgetsTheRestartAlsoWithoutARegistrar) {
+TEST_F(StartAndStop, ForgetsTheRestartEvenWithoutARegistrar) {
     world.loader = simulated::Loader::empty;
     loadView();
     pane().enableAttentionLabel(nullptr);
