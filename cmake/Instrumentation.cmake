@@ -4,12 +4,6 @@ if(SORTERPANE_CHECKS STREQUAL "coverage")
     # One thread runs here: waiting for another to make a static object is no branch that a test could reach.
     add_compile_options(--coverage -fno-threadsafe-statics)
     add_link_options(--coverage)
-    # Headers are included through links; the report knows them by where they lie.
-    foreach(room IN ITEMS platform pane settings sorter hotkeys hidelist scenario simulated)
-        foreach(way IN ITEMS inside offered)
-            add_compile_options("-fprofile-prefix-map=${ROOM_INCLUDES}/${way}/${room}=${PROJECT_SOURCE_DIR}/src")
-        endforeach()
-    endforeach()
 elseif(SORTERPANE_CHECKS STREQUAL "sanitizers")
     set(sanitizers -fsanitize=address,undefined,float-cast-overflow)
     add_compile_options(${sanitizers} -fno-sanitize-recover=all)

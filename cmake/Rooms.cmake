@@ -3,10 +3,41 @@
 
 set(ROOM_INCLUDES "${PROJECT_BINARY_DIR}/include")
 
+# Enters a room, and the rooms that it uses, into the list that write_rooms() writes.
+#   declare_room(<name> USES <room>...)
+function(declare_room name)
+    cmake_parse_arguments(ROOM "" "" "USES" ${ARGN})
+    get_property(rooms GLOBAL PROPERTY ROOMS)
+    if(NOT name IN_LIST rooms)
+        set_property(GLOBAL APPEND PROPERTY ROOMS ${name})
+    endif()
+    set_property(GLOBAL APPEND PROPERTY ROOMS_USED_BY_${name} ${ROOM_USES})
+endfunction()
+
+# Writes the rooms for tests and scripts, a line each: the name, "core" for a room of the pane's core, a colon, and
+# the rooms that it uses.
+function(write_rooms file)
+    get_property(rooms GLOBAL PROPERTY ROOMS)
+    get_property(core GLOBAL PROPERTY CORE_ROOMS)
+    set(lines)
+    foreach(room IN LISTS rooms)
+        get_property(used GLOBAL PROPERTY ROOMS_USED_BY_${room})
+        list(REMOVE_DUPLICATES used)
+        list(JOIN used " " used)
+        if(room IN_LIST core)
+            string(APPEND lines "${room} core: ${used}\n")
+        else()
+            string(APPEND lines "${room}: ${used}\n")
+        endif()
+    endforeach()
+    file(CONFIGURE OUTPUT "${file}" CONTENT "${lines}" @ONLY)
+endfunction()
+
 # The target <name>_headers stands for a room's public headers.
 #   room_headers(<name> PUBLIC <header>... USES <room>...)
 function(room_headers name)
     cmake_parse_arguments(ROOM "" "" "PUBLIC;USES" ${ARGN})
+    declare_room(${name} USES ${ROOM_USES})
     file(MAKE_DIRECTORY "${ROOM_INCLUDES}/inside/${name}" "${ROOM_INCLUDES}/offered/${name}/${name}")
     file(CREATE_LINK "${PROJECT_SOURCE_DIR}/src/${name}" "${ROOM_INCLUDES}/inside/${name}/${name}" SYMBOLIC)
     foreach(header IN LISTS ROOM_PUBLIC)
@@ -17,12 +48,24 @@ function(room_headers name)
     target_include_directories(${name}_headers INTERFACE "${ROOM_INCLUDES}/offered/${name}")
     list(TRANSFORM ROOM_USES APPEND _headers)
     target_link_libraries(${name}_headers INTERFACE ${ROOM_USES})
+    if(SORTERPANE_CORE_ONLY AND SORTERPANE_CHECKS STREQUAL "coverage")
+        # Headers are included through links; the report knows them by where they lie.
+        foreach(way IN ITEMS inside offered)
+            target_compile_options(project_options INTERFACE
+                "-fprofile-prefix-map=${ROOM_INCLUDES}/${way}/${name}=${PROJECT_SOURCE_DIR}/src")
+        endforeach()
+    endif()
 endfunction()
 
 # The target <name>_room holds the objects of a room's sources.
-#   room_objects(<name> USES <room>... EXCEPT <source>...)
+# CORE makes it a part of the pane's core, which uses the standard library and nothing else.
+#   room_objects(<name> [CORE] USES <room>... EXCEPT <source>...)
 function(room_objects name)
-    cmake_parse_arguments(ROOM "" "" "USES;EXCEPT" ${ARGN})
+    cmake_parse_arguments(ROOM "CORE" "" "USES;EXCEPT" ${ARGN})
+    declare_room(${name} USES ${ROOM_USES})
+    if(ROOM_CORE)
+        set_property(GLOBAL APPEND PROPERTY CORE_ROOMS ${name})
+    endif()
     set(folder "${PROJECT_SOURCE_DIR}/src/${name}")
     file(GLOB sources CONFIGURE_DEPENDS "${folder}/*.cpp")
     foreach(source IN LISTS ROOM_EXCEPT)

@@ -1,12 +1,13 @@
-# The tests of the portable rooms, in folders that are named after the rooms.
+# The tests of the core's rooms and of the simulation, in folders that are named after the rooms.
+get_property(core_rooms GLOBAL PROPERTY CORE_ROOMS)
 set(sources)
-foreach(room IN ITEMS platform pane settings sorter hotkeys hidelist simulated)
+foreach(room IN LISTS core_rooms ITEMS simulated)
     file(GLOB room_sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/${room}/*.cpp")
     list(APPEND sources ${room_sources})
 endforeach()
 add_executable(unit_tests ${sources})
 target_link_libraries(unit_tests PRIVATE simulated gtest_main project_options)
-foreach(room IN ITEMS platform pane settings sorter hotkeys hidelist)
+foreach(room IN LISTS core_rooms)
     target_include_directories(unit_tests PRIVATE "${ROOM_INCLUDES}/inside/${room}")
 endforeach()
 target_include_directories(unit_tests PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/helpers")

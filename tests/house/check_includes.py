@@ -1,13 +1,16 @@
 #!/usr/bin/env python3
-"""check_includes.py SRC: holds every include of the rooms against what the house allows.
+"""check_includes.py SRC ROOMS: checks every include of the rooms against the list of rooms that the build wrote.
 
-platform/ and the five subsystems may include the standard library and each other's offered headers, and nothing
-of the system; no file may leave its room by a path. Prints each wrong include and exits with 1 if there is one.
+A room may include headers of the rooms that it uses. The core's rooms may also include the standard library, and
+nothing of the system; no file may leave its room by a path. Prints each wrong include and exits with 1 if there is
+one.
 """
 
 import pathlib
 import re
 import sys
+
+import rooms
 
 STANDARD = set(
     """algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes
@@ -20,39 +23,25 @@ STANDARD = set(
     typeindex typeinfo unordered_map unordered_set utility valarray variant vector version""".split()
 )
 
-# What a room may include of others. Of the controller's room the header and what stands on it are offered.
-USES = {
-    "platform": [],
-    "sorter": ["platform", "pane"],
-    "settings": ["platform", "pane", "sorter"],
-    "hotkeys": ["platform", "pane", "settings"],
-    "hidelist": ["platform", "pane", "settings"],
-    "pane": ["platform", "hidelist", "settings", "sorter"],
-    "scenario": [],
-    "simulated": ["platform", "pane", "scenario", "sorter"],
-    "appkit": ["platform", "pane", "sorter"],
-    "support": [],
-    "standins": ["scenario"],
-}
-PORTABLE = {"platform", "sorter", "settings", "hotkeys", "hidelist", "pane"}
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s*([<"])([^>"]+)[>"]')
 
 
-def complaint(room, kind, name):
+def complaint(room, kind, name, house):
     if kind == "<":
-        outside = room in PORTABLE and name not in STANDARD
+        outside = house[room].core and name not in STANDARD
         return f"<{name}> is not of the standard library" if outside else None
     if ".." in pathlib.PurePath(name).parts:
         return f'"{name}" leaves its room by a path'
     other = pathlib.PurePath(name).parts[0]
-    allowed = other == room or other in USES[room] or other not in USES
+    allowed = other == room or other in house[room].uses or other not in house
     return None if allowed else f'"{name}": {room} may not use {other}'
 
 
 def main():
     source = pathlib.Path(sys.argv[1])
+    house = rooms.read(sys.argv[2])
     wrong = 0
-    for room in USES:
+    for room in house:
         folder = source / room if room != "standins" else source.parent / room
         files = [f for f in sorted(folder.rglob("*")) if f.suffix in {".h", ".cpp", ".mm", ".m"}]
         if not files:
@@ -61,7 +50,7 @@ def main():
         for file in files:
             for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
                 match = INCLUDE.match(line)
-                problem = match and complaint(room, *match.groups())
+                problem = match and complaint(room, *match.groups(), house)
                 if problem:
                     print(f"{file}:{number}: {problem}")
                     wrong += 1
