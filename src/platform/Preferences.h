@@ -8,7 +8,7 @@ namespace qbsp::platform {
 /// Whose preferences are meant.
 enum class PreferencesUser { currentUser };
 
-/// On which machines they hold.
+/// On which machines they apply.
 enum class PreferencesHost { anyHost };
 
 inline constexpr SuiteID kCFPreferencesCurrentApplication{"kCFPreferencesCurrentApplication"};
@@ -21,7 +21,7 @@ public:
     /// From now on a key that the application's domain lacks is also looked for in the suite.
     virtual void addSuitePreferencesToApp(ApplicationID application, SuiteID suite) = 0;
 
-    /// Takes the suite away again.
+    /// Removes the suite.
     virtual void removeSuitePreferencesFromApp(ApplicationID application, SuiteID suite) = 0;
 
     /// The value that the application sees for the key; no value when there is none.

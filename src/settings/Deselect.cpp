@@ -19,7 +19,7 @@ void QBSPPreferencePane::willUnselect() {
 }
 
 void QBSPPreferencePane::applyLoginItemCheckbox() {
-    // Asked for at every deselect, also when the box was not touched: the login items may have been changed
+    // Requested at every deselect, even when the box was not touched: the login items may have been changed
     // elsewhere since, and what the box shows is what the user wants.
     switch (controls.showAtLoginCheckbox->state()) {
     case platform::ButtonState::off:

@@ -23,14 +23,14 @@ void checkLoginItem(const Situation& s, SituatedPane& stage, const Asked& asked)
 }
 
 void checkRestartNotice(const Situation& s, SituatedPane& stage, const Asked& asked) {
-    const bool told = s.shouldRestart && s.editionsSorterRuns();
+    const bool notified = s.shouldRestart && s.editionsSorterRuns();
     const bool visibility = s.visibility != ButtonState::on;
     const std::string name = "QBSSorterPreferencesUpdated\", \"Quarrybook\", {\"visibility\": ";
 
-    EXPECT_EQ(asked.posts("QBSSorterPreferencesUpdated"), told);
-    EXPECT_EQ(asked.posts(name + (visibility ? "true}" : "false}")), told);
-    EXPECT_EQ(asked.count("NSUserDefaults synchronize"), told);
-    EXPECT_EQ(stage.pane().shouldRestartSorter(), s.shouldRestart && !told);
+    EXPECT_EQ(asked.posts("QBSSorterPreferencesUpdated"), notified);
+    EXPECT_EQ(asked.posts(name + (visibility ? "true}" : "false}")), notified);
+    EXPECT_EQ(asked.count("NSUserDefaults synchronize"), notified);
+    EXPECT_EQ(stage.pane().shouldRestartSorter(), s.shouldRestart && !notified);
     EXPECT_EQ(stage.controls().visibilityButton->state(), s.visibility);
 }
 
