@@ -28,18 +28,23 @@ NSBundle* bundleAt(const std::string& path) {
     return isFolder ? [NSBundle bundleWithPath:text(path)] : nil;
 }
 
-/// The bundle whose executable the process executes, by the place of that file; empty when it is no
-/// application.
-std::string bundleOf(const Process& process) {
-    const std::filesystem::path executable = executableOf(process);
-    const auto bundle = executable.parent_path();
-    return bundle.extension() == ".app" && sharesSession(process) ? bundle.string() : std::string();
+bool isInBundle(const std::filesystem::path& executable) {
+    return executable.parent_path().extension() == ".app";
 }
 
 // A tool that lies beside an application's executable is not the application.
-bool executesMainExecutable(const Process& process, NSBundle* bundle) {
-    const std::filesystem::path executable = utf8([bundle executablePath]);
-    return executable.filename() == std::filesystem::path(executableOf(process)).filename();
+bool isMainExecutable(const std::filesystem::path& executable, NSBundle* bundle) {
+    return executable.filename() == std::filesystem::path(utf8([bundle executablePath])).filename();
+}
+
+/// None when the process executes no application that has an identifier.
+std::optional<Application> applicationOf(const Process& process) {
+    const std::filesystem::path executable = executableOf(process.pid);
+    const std::string path = executable.parent_path();
+    NSBundle* bundle = isInBundle(executable) ? bundleAt(path) : nil;
+    if ([bundle bundleIdentifier] == nil || !isMainExecutable(executable, bundle))
+        return std::nullopt;
+    return Application{process, path, utf8([bundle bundleIdentifier])};
 }
 
 std::optional<Process> processFrom(const std::string& bundle) {
@@ -76,12 +81,9 @@ std::string executableOfBundle(const std::string& path) {
 
 std::vector<Application> runningApplications() {
     std::vector<Application> applications;
-    for (const Process& process : processesOfUser()) {
-        const std::string path = bundleOf(process);
-        NSBundle* bundle = path.empty() ? nil : bundleAt(path);
-        if ([bundle bundleIdentifier] != nil && executesMainExecutable(process, bundle))
-            applications.push_back({process, path, utf8([bundle bundleIdentifier])});
-    }
+    for (const Process& process : processesOfUser(isInBundle))
+        if (const auto application = applicationOf(process); application && sharesSession(process))
+            applications.push_back(*application);
     return applications;
 }
 
@@ -104,7 +106,7 @@ std::variant<Process, Reason> launchApplication(const std::string& bundle) {
 
 void askApplicationsToQuit(const std::string& identifier) {
     for (const Application& application : runningApplications(identifier))
-        // One that has just gone needs not be asked.
+        // One that has just gone need not be asked.
         std::ignore = askToQuit(application.process);
 }
 

@@ -1,11 +1,14 @@
 #include "processes/Process.h"
 
+#include <array>
+#include <cerrno>
+#include <climits>
 #include <csignal>
-#include <filesystem>
-#include <fstream>
+#include <fcntl.h>
 #include <sstream>
 #include <string_view>
-#include <system_error>
+#include <sys/syscall.h>
+#include <variant>
 
 namespace processes {
 
@@ -15,14 +18,39 @@ constexpr pid_t lastNumberOfTheSystem = 1;
 
 constexpr int fieldsBetweenStateAndStart = 19;
 
+/// The number of the error that kept something from being read.
+using Failure = int;
+
+/// The line in which the system describes the process.
+std::variant<std::string, Failure> lineOf(pid_t pid) {
+    constexpr std::size_t longestLine = 4096;
+    std::string line(longestLine, '\0');
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system's call is declared so.
+    const Descriptor file(open((folderOf(pid) / "stat").c_str(), O_RDONLY | O_CLOEXEC));
+    const ssize_t length = file.isOpen() ? read(file.number(), line.data(), line.size()) : -1;
+    if (length < 0)
+        return errno;
+    line.resize(static_cast<std::size_t>(length));
+    return line;
+}
+
 // The name in parentheses may itself hold blanks and parentheses; what follows the last one is regular.
 std::istringstream fieldsAfterName(const std::string& line) {
     const auto endOfName = line.rfind(')');
     return std::istringstream(endOfName == std::string::npos ? std::string() : line.substr(endOfName + 1));
 }
 
-bool hasEnded(std::string_view state) {
-    return state == "Z" || state == "X";
+/// The process that the line describes; none when it has ended.
+std::optional<Process> processFrom(pid_t pid, const std::string& line) {
+    auto fields = fieldsAfterName(line);
+    std::string state;
+    fields >> state;
+    for (int field = 0; field < fieldsBetweenStateAndStart; ++field)
+        fields.ignore(static_cast<std::streamsize>(line.size()), ' ');
+    Process process{pid, 0};
+    if (!(fields >> process.start) || state == "Z" || state == "X")
+        return std::nullopt;
+    return process;
 }
 
 } // namespace
@@ -34,28 +62,34 @@ std::filesystem::path folderOf(pid_t pid) {
 std::optional<Process> processOfNumber(pid_t pid) {
     if (pid <= lastNumberOfTheSystem)
         return std::nullopt;
-    std::ifstream stream(folderOf(pid) / "stat");
-    std::string line;
-    std::getline(stream, line, '\0');
-    auto fields = fieldsAfterName(line);
-    std::string state;
-    fields >> state;
-    for (int field = 0; field < fieldsBetweenStateAndStart; ++field)
-        fields.ignore(static_cast<std::streamsize>(line.size()), ' ');
-    Process process{pid, 0};
-    if (!(fields >> process.start) || hasEnded(state))
-        return std::nullopt;
-    return process;
+    const auto line = lineOf(pid);
+    const auto* text = std::get_if<std::string>(&line);
+    return text == nullptr ? std::nullopt : processFrom(pid, *text);
 }
 
 bool isAlive(const Process& process) {
     return processOfNumber(process.pid) == process;
 }
 
-std::string executableOf(const Process& process) {
+bool hasEnded(const Process& process) {
+    const auto line = lineOf(process.pid);
+    if (const auto* failure = std::get_if<Failure>(&line))
+        return *failure == ENOENT || *failure == ESRCH;
+    return processFrom(process.pid, std::get<std::string>(line)) != process;
+}
+
+Descriptor endOf(const Process& process) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): Debian 12's header for the call lacks C linkage.
+    Descriptor end(static_cast<int>(syscall(SYS_pidfd_open, process.pid, 0)));
+    // The number may have passed to another process before the descriptor was opened, but not since.
+    return isAlive(process) ? std::move(end) : Descriptor();
+}
+
+std::string executableOf(pid_t pid) {
     constexpr std::string_view replaced = " (deleted)";
-    std::error_code failure;
-    std::string path = std::filesystem::read_symlink(folderOf(process.pid) / "exe", failure);
+    std::array<char, PATH_MAX> target = {};
+    const ssize_t length = readlink((folderOf(pid) / "exe").c_str(), target.data(), target.size());
+    std::string path(target.data(), length < 0 ? 0 : static_cast<std::size_t>(length));
     if (path.ends_with(replaced))
         path.resize(path.size() - replaced.size());
     return path;

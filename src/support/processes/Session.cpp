@@ -51,13 +51,15 @@ std::optional<pid_t> numberOf(const std::filesystem::path& process) {
 
 } // namespace
 
-std::vector<Process> processesOfUser() {
+std::vector<Process> processesOfUser(const std::function<bool(const std::string& executable)>& isWanted) {
     std::vector<Process> found;
     std::error_code failure;
     for (std::filesystem::directory_iterator entry("/proc", failure), end; entry != end;
          entry.increment(failure)) {
         const auto pid = numberOf(entry->path());
-        if (const auto process = pid && belongsToUser(entry->path()) ? processOfNumber(*pid) : std::nullopt)
+        if (!pid || !isWanted(executableOf(*pid)) || !belongsToUser(entry->path()))
+            continue;
+        if (const auto process = processOfNumber(*pid))
             found.push_back(*process);
     }
     return found;

@@ -1,50 +1,18 @@
 #include "processes/Process.h"
 
+#include "Child.h"
 #include "processes/Session.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <sys/prctl.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace processes {
-
-namespace {
-
-/// A child of this process that does nothing until it is asked to quit.
-class Child {
-public:
-    Child() : pid_(fork()) {
-        while (pid_ == 0)
-            pause();
-    }
-
-    ~Child() {
-        kill(pid_, SIGKILL);
-        waitpid(pid_, nullptr, 0);
-    }
-
-    Child(const Child&) = delete;
-    Child& operator=(const Child&) = delete;
-
-    [[nodiscard]] pid_t pid() const { return pid_; }
-
-    /// Returns once it has ended; its parent is not told of that yet.
-    void waitForItsEnd() const {
-        siginfo_t ended = {};
-        waitid(P_PID, static_cast<id_t>(pid_), &ended, WEXITED | WNOWAIT);
-    }
-
-private:
-    pid_t pid_;
-};
-
-} // namespace
 
 TEST(Process, IsAliveUntilItEnds) {
     const Child child;
@@ -52,20 +20,22 @@ TEST(Process, IsAliveUntilItEnds) {
 
     ASSERT_TRUE(process);
     EXPECT_TRUE(isAlive(*process));
-    EXPECT_EQ(executableOf(*process), std::filesystem::read_symlink("/proc/self/exe"));
+    EXPECT_FALSE(hasEnded(*process));
+    EXPECT_EQ(executableOf(child.pid()), std::filesystem::read_symlink("/proc/self/exe"));
 }
 
 TEST(Process, IsGoneWhenItWasKilledAlthoughItsParentTookNoNotice) {
-    const Child child;
+    Child child;
     const auto process = processOfNumber(child.pid());
     ASSERT_TRUE(process);
 
-    kill(child.pid(), SIGKILL);
-    child.waitForItsEnd();
+    child.kill();
+    child.awaitEnd();
 
     EXPECT_FALSE(isAlive(*process));
+    EXPECT_TRUE(hasEnded(*process));
     EXPECT_FALSE(processOfNumber(child.pid()));
-    EXPECT_EQ(executableOf(*process), "");
+    EXPECT_EQ(executableOf(child.pid()), "");
     EXPECT_FALSE(askToQuit(*process));
 }
 
@@ -75,12 +45,12 @@ TEST(Process, QuitsWhenItIsAsked) {
     ASSERT_TRUE(process);
 
     EXPECT_TRUE(askToQuit(*process));
-    child.waitForItsEnd();
+    child.awaitEnd();
 
     EXPECT_FALSE(isAlive(*process));
 }
 
-TEST(Process, IsNotAnotherThatBearsItsNumber) {
+TEST(Process, IsNotAnotherThatHasItsNumber) {
     const Child child;
     auto earlier = processOfNumber(child.pid());
     ASSERT_TRUE(earlier);
@@ -91,7 +61,7 @@ TEST(Process, IsNotAnotherThatBearsItsNumber) {
     EXPECT_TRUE(processOfNumber(child.pid()));
 }
 
-TEST(Process, MayBearAnyName) {
+TEST(Process, MayHaveAnyName) {
     const auto process = processOfNumber(getpid());
     ASSERT_TRUE(process);
 
@@ -106,12 +76,73 @@ TEST(Process, IsNoneOfTheSystemsOrOfNoNumber) {
     EXPECT_FALSE(processOfNumber(1));
 }
 
-TEST(ProcessesOfUser, IncludeThisOne) {
-    const auto all = processesOfUser();
-    const auto self = processOfNumber(getpid());
+TEST(Process, HasNotEndedBecauseItCannotBeRead) {
+    const Child child;
+    const auto process = processOfNumber(child.pid());
+    ASSERT_TRUE(process);
 
+    const NoDescriptors scarcity;
+
+    EXPECT_FALSE(processOfNumber(child.pid()));
+    EXPECT_FALSE(hasEnded(*process));
+}
+
+TEST(EndOfAProcess, IsReadableFromThenOn) {
+    Child child;
+    const auto process = processOfNumber(child.pid());
+    ASSERT_TRUE(process);
+    const Descriptor end = endOf(*process);
+    ASSERT_TRUE(end.isOpen());
+    EXPECT_FALSE(isReadable(end.number()));
+
+    child.kill();
+
+    EXPECT_TRUE(becomesReadable(end.number()));
+    child.reap();
+    EXPECT_TRUE(isReadable(end.number()));
+}
+
+TEST(EndOfAProcess, IsNotTheEndOfALaterOneOfTheSameNumber) {
+    const Child child;
+    auto earlier = processOfNumber(child.pid());
+    ASSERT_TRUE(earlier);
+    --earlier->start;
+
+    EXPECT_FALSE(endOf(*earlier).isOpen());
+    EXPECT_TRUE(hasEnded(*earlier));
+}
+
+TEST(EndOfAProcess, CannotBeWaitedForOnceItHasCome) {
+    Child child;
+    const auto process = processOfNumber(child.pid());
+    ASSERT_TRUE(process);
+
+    child.kill();
+    child.awaitEnd();
+
+    EXPECT_FALSE(endOf(*process).isOpen());
+    child.reap();
+    EXPECT_FALSE(endOf(*process).isOpen());
+    EXPECT_TRUE(hasEnded(*process));
+}
+
+TEST(EndOfAProcess, IsNotInheritedByPrograms) {
+    const auto self = processOfNumber(getpid());
     ASSERT_TRUE(self);
-    EXPECT_NE(std::find(all.begin(), all.end(), *self), all.end());
+
+    EXPECT_EQ(fcntl(endOf(*self).number(), F_GETFD), FD_CLOEXEC);
+}
+
+TEST(ProcessesOfUser, AreThoseThatExecuteAWantedFile) {
+    const auto self = processOfNumber(getpid());
+    ASSERT_TRUE(self);
+    const std::string own = executableOf(getpid());
+
+    const auto same = processesOfUser([&](const std::string& executable) { return executable == own; });
+    const auto none = processesOfUser([](const std::string&) { return false; });
+
+    EXPECT_NE(std::ranges::find(same, *self), same.end());
+    EXPECT_TRUE(none.empty());
 }
 
 TEST(Session, IsSharedByThoseWithTheSameTemporaryFolder) {

@@ -19,10 +19,10 @@ namespace {
 
 /// The applications that the test started, also when they have not become ones yet and execute this program.
 std::vector<processes::Process> othersOfSession() {
-    auto others = processes::processesOfUser();
+    auto others = processes::processesOfUser(
+        [](const fs::path& executable) { return executable.parent_path().extension() == ".app"; });
     std::erase_if(others, [](const processes::Process& process) {
-        const bool isApplication = fs::path(executableOf(process)).parent_path().extension() == ".app";
-        return process.pid == getpid() || !isApplication || !sharesSession(process);
+        return process.pid == getpid() || !sharesSession(process);
     });
     return others;
 }

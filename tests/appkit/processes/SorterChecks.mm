@@ -116,9 +116,10 @@ TEST_F(SorterCheck, ListensOnWhenTheNotificationDaemonIsStartedAnew) {
     execute(sorterExecutable);
     ASSERT_TRUE(tells("started com.quarrybook.Sorter"));
 
-    for (const auto& process : processes::processesOfUser())
-        if (sharesSession(process) && fs::path(executableOf(process)).filename() == "gdnc")
-            killAndAwait(process.pid);
+    for (const auto& daemon : processes::processesOfUser(
+             [](const fs::path& executable) { return executable.filename() == "gdnc"; }))
+        if (sharesSession(daemon))
+            killAndAwait(daemon.pid);
 
     ASSERT_TRUE(tells("listening again"));
     EXPECT_TRUE(eventually([&] {
