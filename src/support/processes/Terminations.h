@@ -1,31 +1,52 @@
 #pragma once
 
 #include "processes/Applications.h"
+#include "processes/Descriptor.h"
 
 #include <map>
 #include <string>
-#include <tuple>
+#include <sys/types.h>
 #include <vector>
 
 namespace processes {
 
-/// Tells which applications ended, each once, from looks at those that run and from notices that applications
-/// send of their own end. Either may come first, and one that was killed sends none.
+/// Finds out which applications ended, each once and after its process has gone. Knows the applications that
+/// it was told of, by a look at those that run or by notices that they send themselves. Look and notice may
+/// come in any order, and an application that is killed sends no notice. The system wakes whoever waits for
+/// descriptor().
 class Terminations {
 public:
-    explicit Terminations(const std::vector<Application>& running) { std::ignore = look(running); }
+    Terminations();
 
-    /// The identifiers of the applications that ended since the last look.
-    [[nodiscard]] std::vector<std::string> look(const std::vector<Application>& running);
+    /// Readable while ended() has something to return of an application whose end the system reports; see
+    /// endOf(). Negative when the system has no descriptor left.
+    [[nodiscard]] int descriptor() const { return wakeUp_.number(); }
 
-    /// The application of that process number announced its end; 0 for one that told only its identifier. It
-    /// may have come and gone between two looks; then the next look reports it.
+    /// These applications run: the new ones among them are known from now on.
+    void learn(const std::vector<Application>& running);
+
+    /// A notice names the application of that process number, because it has started or is about to end. One
+    /// that is not known yet is known from now on, and may have gone already. An empty identifier is no
+    /// application's.
     void announced(pid_t pid, const std::string& identifier);
 
-private:
-    static constexpr pid_t unknown = 0;
+    /// A notice says that an application of that identifier is about to end, and not which process it is.
+    void announcedEnd(const std::string& identifier);
 
-    std::map<Process, std::string> known_;
+    /// The identifiers of the known applications that have ended since the last time.
+    [[nodiscard]] std::vector<std::string> ended();
+
+private:
+    struct Known {
+        std::string identifier;
+        Descriptor end;
+    };
+
+    void know(const Process& process, const std::string& identifier);
+
+    Descriptor wakeUp_;
+    std::map<Process, Known> known_;
+    /// What was reported last of each process number, for notices that come late.
     std::map<pid_t, std::string> reported_;
 };
 

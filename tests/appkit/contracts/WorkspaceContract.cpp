@@ -60,6 +60,17 @@ TEST_P(WorkspaceContract, AnObserverIsToldWhichApplicationTerminated) {
     EXPECT_EQ(observer->told, std::vector{idle});
 }
 
+TEST_P(WorkspaceContract, AnObserverIsNotifiedOfWhatItFoundRunningLater) {
+    workspace.addObserver(observer, didTerminate);
+    stage->start();
+    EXPECT_TRUE(stage->runningApplications().applicationIsRunning(idleIdentifier));
+
+    stage->end({observer});
+
+    EXPECT_TRUE(stage->eventually([this] { return !observer->told.empty(); }));
+    EXPECT_EQ(observer->told, std::vector{idle});
+}
+
 TEST_P(WorkspaceContract, AnObserverThatWasRemovedIsToldNothing) {
     stage->start();
     workspace.addObserver(observer, didTerminate);

@@ -5,8 +5,12 @@
 #import <AppKit/AppKit.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <map>
+#include <optional>
+#include <sys/resource.h>
+#include <sys/wait.h>
 
 namespace qbsp::appkit {
 
@@ -60,6 +64,8 @@ class WorkspaceCheck : public RealSession {
             eventually([&] { return AppKitRunningApplications().applicationIsRunning({identifier}); }));
     }
 
+    [[nodiscard]] pid_t processOf(const std::string& name) const { return others_.at(name); }
+
     /// Kills the other application; returns once the observer was told.
     void endAnother(const std::string& name, const Observer& told) {
         killAndAwait(others_[name]);
@@ -74,6 +80,31 @@ class WorkspaceCheck : public RealSession {
                           object:nil
                         userInfo:[NSDictionary dictionaryWithObject:text
                                                              forKey:@"NSApplicationBundleIdentifier"]];
+    }
+
+    /// Runs the run loop in that mode until the condition holds, ten seconds at the most.
+    static void runUntil(NSString* mode, const std::function<bool()>& condition) {
+        NSDate* limit = [NSDate dateWithTimeIntervalSinceNow:10];
+        while (!condition() && [limit timeIntervalSinceNow] > 0)
+            [[NSRunLoop currentRunLoop] runMode:mode beforeDate:limit];
+    }
+
+    /// Returns once what was begun has come to rest.
+    static void settle() {
+        int passes = 0;
+        EXPECT_TRUE(eventually([&] { return ++passes > 20; }));
+    }
+
+    /// How often this thread goes to sleep and is woken again while the run loop runs.
+    [[nodiscard]] static long wakeUpsInASecond() {
+        rusage before = {};
+        rusage after = {};
+        getrusage(RUSAGE_THREAD, &before);
+        NSDate* end = [NSDate dateWithTimeIntervalSinceNow:1];
+        while ([end timeIntervalSinceNow] > 0)
+            [[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:end];
+        getrusage(RUSAGE_THREAD, &after);
+        return after.ru_nvcsw - before.ru_nvcsw;
     }
 
     AppKitWorkspace workspace;
@@ -177,6 +208,73 @@ TEST_F(WorkspaceCheck, ReportsAKilledApplicationOnce) {
     EXPECT_TRUE(eventually([&] { return observer->reportsOf(sorterIdentifier) > 0; }));
     endAnother("Mail", *observer);
     EXPECT_EQ(observer->reportsOf(sorterIdentifier), 1);
+}
+
+TEST_F(WorkspaceCheck, ReportsTheEndOfAnApplicationThatLaunchedDuringTheObservation) {
+    startAnother("Mail");
+    workspace.addObserver(observer, didTerminate);
+    const pid_t pid = execute(fs::path(SORTER_BUNDLE) / "Quarrybook Sorter");
+    ASSERT_TRUE(eventually([] { return !sorterLog().empty(); }));
+
+    killAndAwait(pid);
+
+    EXPECT_TRUE(eventually([&] { return observer->reportsOf(sorterIdentifier) > 0; }));
+    endAnother("Mail", *observer);
+    EXPECT_EQ(observer->reportsOf(sorterIdentifier), 1);
+}
+
+TEST_F(WorkspaceCheck, ReportsTheEndOfWhateverWasFoundRunningDuringTheObservation) {
+    workspace.addObserver(observer, didTerminate);
+    startAnother("Mail");
+
+    endAnother("Mail", *observer);
+}
+
+TEST_F(WorkspaceCheck, ReportsNothingInTheMidstOfAQuestion) {
+    startAnother("Mail");
+    startAnother("Clock");
+    workspace.addObserver(observer, didTerminate);
+    kill(processOf("Mail"), SIGKILL);
+    siginfo_t ended = {};
+    waitid(P_PID, static_cast<id_t>(processOf("Mail")), &ended, WEXITED | WNOWAIT);
+
+    EXPECT_TRUE(AppKitRunningApplications().applicationIsRunning({"org.example.Clock"}));
+
+    EXPECT_TRUE(observer->reported.empty());
+    EXPECT_TRUE(eventually([&] { return observer->reportsOf("org.example.Mail") == 1; }));
+}
+
+TEST_F(WorkspaceCheck, ReportsAnEndAtOnceAlsoWhileAnAlertIsOpenOrTheMouseIsHeld) {
+    workspace.addObserver(observer, didTerminate);
+    for (NSString* mode : {NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode}) {
+        startAnother("Mail");
+        settle();
+        NSDate* killed = [NSDate date];
+        std::optional<double> delay;
+        observer->then = [&] { delay = -[killed timeIntervalSinceNow]; };
+
+        kill(processOf("Mail"), SIGKILL);
+        runUntil(mode, [&] { return delay.has_value(); });
+
+        // A tenth, on a machine that has nothing else to do.
+        EXPECT_LT(delay.value_or(10), 1);
+        fs::remove_all(folder / "Mail.app");
+    }
+}
+
+TEST_F(WorkspaceCheck, SleepsWhileNothingStartsOrEnds) {
+    startAnother("Mail");
+    workspace.addObserver(observer, didTerminate);
+    settle();
+
+    // A busy machine may hold the thread up for once.
+    long least = wakeUpsInASecond();
+    for (int again = 0; again < 3 && least > 1; ++again)
+        least = std::min(least, wakeUpsInASecond());
+
+    // One is the end of the second.
+    EXPECT_LE(least, 1);
+    endAnother("Mail", *observer);
 }
 
 TEST_F(WorkspaceCheck, ReportsNothingToAnObserverThatWasRemoved) {

@@ -1,5 +1,6 @@
 #include "appkit/services/Applications.h"
 
+#import "appkit/services/gnustep/QBSPTerminationReceiver.h"
 #include "processes/Applications.h"
 
 #include <string>
@@ -7,7 +8,10 @@
 namespace qbsp::appkit {
 
 bool AppKitRunningApplications::applicationIsRunning(platform::BundleIdentifier identifier) const {
-    return !processes::runningApplications(std::string(identifier.text)).empty();
+    const bool runs = !processes::runningApplications(std::string(identifier.text)).empty();
+    if (runs)
+        [[NSNotificationCenter defaultCenter] postNotificationName:QBSPApplicationFoundRunning object:nil];
+    return runs;
 }
 
 namespace {

@@ -2,84 +2,162 @@
 
 #include "appkit/bridge/Strings.h"
 #include "processes/Applications.h"
+#include "processes/Terminations.h"
 
 #import <AppKit/AppKit.h>
 
 #include <array>
+#include <cstdint>
+#include <utility>
 
-static const NSTimeInterval timeBetweenLooks = 0.25;
+NSString* const QBSPApplicationFoundRunning = @"QBSPApplicationFoundRunning";
 
-// An application announces its end before it has ended.
+// An application announces its end before it has ended. A system that cannot watch it is asked again after
+// this time.
 static const NSTimeInterval timeToEnd = 0.05;
 
 // An alert or a panel may be open meanwhile.
 static const std::array<NSString*, 3> modes{NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
                                             NSEventTrackingRunLoopMode};
 
-static NSString* const bundleIdentifier = @"NSApplicationBundleIdentifier";
+// What the user information of the workspace's notices has of an application.
+static NSString* const applicationIdentifier = @"NSApplicationBundleIdentifier";
+static NSString* const applicationPath = @"NSApplicationPath";
+static NSString* const applicationProcess = @"NSApplicationProcessIdentifier";
+
+namespace qbsp::appkit {
+
+struct TerminationReceiverParts {
+    std::weak_ptr<platform::TerminationObserver> observer;
+    processes::Terminations terminations;
+};
+
+} // namespace qbsp::appkit
 
 static std::string text(id object) {
     return qbsp::appkit::utf8([object isKindOfClass:[NSString class]] ? object : nil);
 }
 
-static NSNumber* number(id object) {
-    return [object isKindOfClass:[NSNumber class]] ? object : nil;
+/// 0 when the notice does not say.
+static pid_t processNumber(NSDictionary* application) {
+    id number = [application objectForKey:applicationProcess];
+    return [number isKindOfClass:[NSNumber class]] ? [number intValue] : 0;
+}
+
+static std::string identifierIn(NSDictionary* application) {
+    const std::string identifier = text([application objectForKey:applicationIdentifier]);
+    return identifier.empty()
+               ? processes::identifierOfBundle(text([application objectForKey:applicationPath]))
+               : identifier;
+}
+
+static NSNotificationCenter* workspaceNotices() {
+    return [[NSWorkspace sharedWorkspace] notificationCenter];
+}
+
+/// The run loop takes a descriptor as a pointer.
+static void* eventOf(const processes::Terminations& terminations) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast,performance-no-int-to-ptr)
+    return reinterpret_cast<void*>(static_cast<std::intptr_t>(terminations.descriptor()));
 }
 
 @implementation QBSPTerminationReceiver
 
+- (void)awaitDescriptor {
+    if (parts->terminations.descriptor() < 0)
+        return;
+    for (NSString* mode : modes)
+        [[NSRunLoop currentRunLoop] addEvent:eventOf(parts->terminations)
+                                        type:ET_RDESC
+                                     watcher:self
+                                     forMode:mode];
+}
+
+- (void)invalidate {
+    parts->observer.reset();
+    [workspaceNotices() removeObserver:self];
+    [[NSNotificationCenter defaultCenter] removeObserver:self];
+    [NSObject cancelPreviousPerformRequestsWithTarget:self];
+    for (NSString* mode : modes)
+        [[NSRunLoop currentRunLoop] removeEvent:eventOf(parts->terminations)
+                                           type:ET_RDESC
+                                        forMode:mode
+                                            all:YES];
+}
+
+- (void)reportEnds {
+    // The observer may end the observation, and with it this object, while it is notified.
+    [[self retain] autorelease];
+    if (parts->observer.expired())
+        return [self invalidate];
+    for (const std::string& identifier : parts->terminations.ended())
+        if (const auto observer = parts->observer.lock())
+            observer->appDied({{{qbsp::appkit::utf8(applicationIdentifier), identifier}}});
+}
+
+- (void)reportEndsAfterDelay:(NSTimeInterval)delay {
+    [self performSelector:@selector(reportEnds)
+               withObject:nil
+               afterDelay:delay
+                  inModes:[NSArray arrayWithObjects:modes.data() count:modes.size()]];
+}
+
+- (void)lookAtRunningApplications {
+    parts->terminations.learn(processes::runningApplications());
+}
+
+- (void)applicationWasFoundRunning {
+    [self lookAtRunningApplications];
+    // What has ended since is reported by the run loop, never in the midst of the observer's question.
+    [self reportEndsAfterDelay:0];
+}
+
 - (id)initWithObserver:(std::weak_ptr<qbsp::platform::TerminationObserver>)anObserver name:(NSString*)name {
     if ((self = [super init]) != nil) {
-        observer = std::move(anObserver);
-        terminations = std::make_unique<processes::Terminations>(processes::runningApplications());
-        timer = [NSTimer timerWithTimeInterval:timeBetweenLooks
-                                        target:self
-                                      selector:@selector(look)
-                                      userInfo:nil
-                                       repeats:YES];
-        for (NSString* mode : modes)
-            [[NSRunLoop currentRunLoop] addTimer:timer forMode:mode];
-        [[[NSWorkspace sharedWorkspace] notificationCenter] addObserver:self
-                                                               selector:@selector(applicationAnnouncedItsEnd:)
-                                                                   name:name
-                                                                 object:nil];
+        parts = std::make_unique<qbsp::appkit::TerminationReceiverParts>();
+        parts->observer = std::move(anObserver);
+        [self awaitDescriptor];
+        // First the notices and then the look: an application that starts in between is not missed.
+        [workspaceNotices() addObserver:self
+                               selector:@selector(applicationWillTerminate:)
+                                   name:name
+                                 object:nil];
+        [workspaceNotices() addObserver:self
+                               selector:@selector(applicationDidLaunch:)
+                                   name:NSWorkspaceDidLaunchApplicationNotification
+                                 object:nil];
+        [[NSNotificationCenter defaultCenter] addObserver:self
+                                                 selector:@selector(applicationWasFoundRunning)
+                                                     name:QBSPApplicationFoundRunning
+                                                   object:nil];
+        [self applicationWasFoundRunning];
     }
     return self;
 }
 
-- (void)invalidate {
-    [[[NSWorkspace sharedWorkspace] notificationCenter] removeObserver:self];
-    [NSObject cancelPreviousPerformRequestsWithTarget:self];
-    [timer invalidate];
-    timer = nil;
+- (void)applicationDidLaunch:(NSNotification*)notification {
+    [self lookAtRunningApplications];
+    // It may have ended since.
+    if (const pid_t process = processNumber([notification userInfo]))
+        parts->terminations.announced(process, identifierIn([notification userInfo]));
+    [self reportEnds];
 }
 
-- (void)reportEndOf:(const std::string&)identifier {
-    const auto receiver = observer.lock();
-    if (receiver != nullptr && timer != nil)
-        receiver->appDied({{{qbsp::appkit::utf8(bundleIdentifier), identifier}}});
+- (void)applicationWillTerminate:(NSNotification*)notification {
+    [self lookAtRunningApplications];
+    const std::string identifier = identifierIn([notification userInfo]);
+    if (const pid_t process = processNumber([notification userInfo]))
+        parts->terminations.announced(process, identifier);
+    else
+        parts->terminations.announcedEnd(identifier);
+    [self reportEnds];
+    [self reportEndsAfterDelay:timeToEnd];
 }
 
-- (void)look {
-    // The observer may end the observation, and with it this object, while it is told.
-    [[self retain] autorelease];
-    if (observer.expired())
-        return [self invalidate];
-    for (const std::string& identifier : terminations->look(processes::runningApplications()))
-        [self reportEndOf:identifier];
-}
+#pragma mark - RunLoopEvents
 
-- (void)applicationAnnouncedItsEnd:(NSNotification*)notification {
-    NSDictionary* application = [notification userInfo];
-    const std::string identifier = text([application objectForKey:bundleIdentifier]);
-    const std::string bundle = text([application objectForKey:@"NSApplicationPath"]);
-    [self look];
-    terminations->announced([number([application objectForKey:@"NSApplicationProcessIdentifier"]) intValue],
-                            identifier.empty() ? processes::identifierOfBundle(bundle) : identifier);
-    [self performSelector:@selector(look)
-               withObject:nil
-               afterDelay:timeToEnd
-                  inModes:[NSArray arrayWithObjects:modes.data() count:modes.size()]];
+- (void)receivedEvent:(void*)data type:(RunLoopEventType)type extra:(void*)extra forMode:(NSString*)mode {
+    [self reportEnds];
 }
 
 @end
