@@ -2,30 +2,35 @@
 
 #include "appkit/bridge/Strings.h"
 
-#import <AppKit/AppKit.h>
-
 #include <utility>
 
-static NSString* const bundleIdentifier = @"NSApplicationBundleIdentifier";
+static NSString* const applicationIdentifier = @"NSApplicationBundleIdentifier";
+
+namespace qbsp::appkit {
+
+struct TerminationReceiverParts {
+    std::weak_ptr<platform::TerminationObserver> observer;
+};
+
+} // namespace qbsp::appkit
 
 @implementation QBSPTerminationReceiver
 
 - (id)initWithObserver:(std::weak_ptr<qbsp::platform::TerminationObserver>)anObserver {
-    if ((self = [super init]) != nil)
-        observer = std::move(anObserver);
+    if ((self = [super init]) != nil) {
+        parts = std::make_unique<qbsp::appkit::TerminationReceiverParts>();
+        parts->observer = std::move(anObserver);
+    }
     return self;
 }
 
 - (void)applicationTerminated:(NSNotification*)notification {
-    NSDictionary* userInfo = [notification userInfo];
-    id identifier = [userInfo objectForKey:bundleIdentifier];
-    if (![identifier isKindOfClass:[NSString class]])
-        identifier = [[userInfo objectForKey:NSWorkspaceApplicationKey] bundleIdentifier];
+    id identifier = [[notification userInfo] objectForKey:applicationIdentifier];
     qbsp::platform::Notification report;
-    if (identifier != nil)
-        report.userInfo.emplace(qbsp::appkit::utf8(bundleIdentifier), qbsp::appkit::utf8(identifier));
-    if (const auto receiver = observer.lock())
-        receiver->appDied(report);
+    if ([identifier isKindOfClass:[NSString class]])
+        report.userInfo.emplace(qbsp::appkit::utf8(applicationIdentifier), qbsp::appkit::utf8(identifier));
+    if (const auto observer = parts->observer.lock())
+        observer->appDied(report);
 }
 
 @end
