@@ -79,7 +79,7 @@ TEST_F(TerminationsTest, AreReportedOnce) {
     EXPECT_EQ(terminations.ended(), Identifiers{mail});
 }
 
-TEST_F(TerminationsTest, WakeWhoeverWaitsAndLetHimWaitAgainOnceReported) {
+TEST_F(TerminationsTest, WakeWhoeverWaitsUntilTheyAreReported) {
     learnBoth();
     end(first);
     EXPECT_TRUE(becomesReadable(terminations.descriptor()));
@@ -89,6 +89,16 @@ TEST_F(TerminationsTest, WakeWhoeverWaitsAndLetHimWaitAgainOnceReported) {
     EXPECT_FALSE(isReadable(terminations.descriptor()));
     end(second);
     EXPECT_TRUE(becomesReadable(terminations.descriptor()));
+}
+
+TEST_F(TerminationsTest, WakeNobodyOnceReportedThoughAnotherProcessHasACopyOfTheDescriptor) {
+    learnBoth();
+    const Child copy;
+    end(first);
+
+    EXPECT_EQ(terminations.ended(), Identifiers{sorter});
+
+    EXPECT_FALSE(isReadable(terminations.descriptor()));
 }
 
 TEST_F(TerminationsTest, AreReportedThoughTheParentTakesNoNotice) {
@@ -202,7 +212,7 @@ TEST_F(TerminationsTest, TellOneProcessFromALaterOneOfTheSameNumber) {
     EXPECT_EQ(terminations.ended(), Identifiers{mail});
 }
 
-TEST_F(TerminationsTest, AreReportedOfALaterProcessWhoseNumberWasReportedBefore) {
+TEST_F(TerminationsTest, IncludeALaterProcessWhoseNumberWasReportedBefore) {
     Application earlier = application(first, sorter);
     --earlier.process.start;
     terminations.learn({earlier});
