@@ -183,7 +183,7 @@ PaneAction readFind(Words& arguments, PaneSession& session) {
 PaneAction readTerminated(Words& arguments, PaneSession& session) {
     platform::Notification termination;
     if (const auto identifier = takeIdentifierOrNull(arguments))
-        termination.userInfo.emplace("NSApplicationBundleIdentifier", *identifier);
+        termination.userInfo.emplace(platform::NSApplicationBundleIdentifier, *identifier);
     return [=, &session]() -> Answer {
         return json(session.platform().workspace.report(session.pane(), termination));
     };

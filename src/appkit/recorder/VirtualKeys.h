@@ -28,10 +28,7 @@ inline constexpr VirtualKey forwardDelete = 117;
 
 namespace modifiers {
 
-inline constexpr CocoaFlags shift = 0x20000;
-inline constexpr CocoaFlags control = 0x40000;
-inline constexpr CocoaFlags option = 0x80000;
-inline constexpr CocoaFlags command = 0x100000;
+using namespace platform::modifiers::cocoa;
 inline constexpr CocoaFlags all = shift | control | option | command;
 
 } // namespace modifiers

@@ -16,33 +16,32 @@
 namespace qbsp::appkit {
 
 /// All services on AppKit and Foundation.
-class AppKitServices {
-public:
+struct AppKitServices {
     /// The owner holds this; messages that wait keep it alive. The pane's texts are in the class's bundle.
-    AppKitServices(id owner, Class paneClass) : bundles_(paneClass), runLoop_(owner), openPanels_(owner) {}
+    AppKitServices(id owner, Class paneClass) : bundles(paneClass), runLoop(owner), openPanels(owner) {}
 
     /// References to the services, which live as long as this.
-    [[nodiscard]] platform::Services references();
+    [[nodiscard]] platform::Services references() { return platform::servicesOf(*this); }
 
-private:
-    AppKitHost host_;
-    AppKitProcessInfo processInfo_;
-    AppKitRuntime runtime_;
-    AppKitBundles bundles_;
-    AppKitLog log_;
-    AppKitRunLoop runLoop_;
-    AppKitStringComparison strings_;
-    AppKitUserDefaults userDefaults_;
-    std::unique_ptr<platform::Preferences> preferences_ = makePreferences();
-    AppKitDistributedNotificationCenter notifications_{log_};
-    AppKitWorkspace workspace_;
-    AppKitRunningApplications runningApplications_;
-    AppKitLaunchServices launchServices_;
-    AppKitServiceManagement serviceManagement_;
-    AppKitFileManager files_;
-    AppKitPropertyLists propertyLists_;
-    AppKitAlerts alerts_;
-    AppKitOpenPanels openPanels_;
+    AppKitHost host;
+    AppKitProcessInfo processInfo;
+    AppKitRuntime runtime;
+    AppKitBundles bundles;
+    AppKitLog log;
+    AppKitRunLoop runLoop;
+    AppKitStringComparison strings;
+    AppKitUserDefaults userDefaults;
+    std::unique_ptr<platform::Preferences> ownedPreferences = makePreferences();
+    platform::Preferences& preferences = *ownedPreferences;
+    AppKitDistributedNotificationCenter notifications{log};
+    AppKitWorkspace workspace;
+    AppKitRunningApplications runningApplications;
+    AppKitLaunchServices launchServices;
+    AppKitServiceManagement serviceManagement;
+    AppKitFileManager files;
+    AppKitPropertyLists propertyLists;
+    AppKitAlerts alerts;
+    AppKitOpenPanels openPanels;
 };
 
 } // namespace qbsp::appkit

@@ -26,10 +26,8 @@ bool hasGone(const Process& process, const Descriptor& end) {
 Terminations::Terminations() : wakeUp_(epoll_create1(EPOLL_CLOEXEC)) {}
 
 void Terminations::learn(const std::vector<Application>& running) {
-    for (const auto& [process, bundle, identifier] : running) {
-        reported_.erase(process.pid);
+    for (const auto& [process, bundle, identifier] : running)
         know(process, identifier);
-    }
 }
 
 void Terminations::announced(pid_t pid, const std::string& identifier) {

@@ -4,8 +4,6 @@
 
 #include <utility>
 
-static NSString* const applicationIdentifier = @"NSApplicationBundleIdentifier";
-
 namespace qbsp::appkit {
 
 struct TerminationReceiverParts {
@@ -25,10 +23,11 @@ struct TerminationReceiverParts {
 }
 
 - (void)applicationTerminated:(NSNotification*)notification {
-    id identifier = [[notification userInfo] objectForKey:applicationIdentifier];
+    const char* const key = qbsp::platform::NSApplicationBundleIdentifier;
+    id identifier = [[notification userInfo] objectForKey:qbsp::appkit::nsString(key)];
     qbsp::platform::Notification report;
     if ([identifier isKindOfClass:[NSString class]])
-        report.userInfo.emplace(qbsp::appkit::utf8(applicationIdentifier), qbsp::appkit::utf8(identifier));
+        report.userInfo.emplace(key, qbsp::appkit::utf8(identifier));
     if (const auto observer = parts->observer.lock())
         observer->appDied(report);
 }

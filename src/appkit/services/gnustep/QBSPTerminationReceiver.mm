@@ -20,8 +20,7 @@ static const NSTimeInterval timeToEnd = 0.05;
 static const std::array<NSString*, 3> modes{NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
                                             NSEventTrackingRunLoopMode};
 
-// What the user information of the workspace's notices has of an application.
-static NSString* const applicationIdentifier = @"NSApplicationBundleIdentifier";
+// What the user information of the workspace's notices here has of an application, besides its identifier.
 static NSString* const applicationPath = @"NSApplicationPath";
 static NSString* const applicationProcess = @"NSApplicationProcessIdentifier";
 
@@ -45,7 +44,8 @@ static pid_t processNumber(NSDictionary* application) {
 }
 
 static std::string identifierIn(NSDictionary* application) {
-    const std::string identifier = text([application objectForKey:applicationIdentifier]);
+    const std::string identifier = text(
+        [application objectForKey:qbsp::appkit::nsString(qbsp::platform::NSApplicationBundleIdentifier)]);
     return identifier.empty()
                ? processes::identifierOfBundle(text([application objectForKey:applicationPath]))
                : identifier;
@@ -92,7 +92,7 @@ static void* eventOf(const processes::Terminations& terminations) {
         return [self invalidate];
     for (const std::string& identifier : parts->terminations.ended())
         if (const auto observer = parts->observer.lock())
-            observer->appDied({{{qbsp::appkit::utf8(applicationIdentifier), identifier}}});
+            observer->appDied({{{qbsp::platform::NSApplicationBundleIdentifier, identifier}}});
 }
 
 - (void)reportEndsAfterDelay:(NSTimeInterval)delay {
