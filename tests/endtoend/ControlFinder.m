@@ -1,16 +1,16 @@
 // A bundle that an application loads when the default "GSAppKitUserBundles" lists it, and that then says
-// where the application's controls are. It looks for the file "question" in the folder of the default
-// "ControlFinderFolder": a property list with a number and the names of fields. Each time the number is
-// another one, it writes the file "answer": that number, and the controls that the user sees.
+// where the application's controls are. Questions arrive in the pipe "questions" of the folder that the
+// default "ControlFinderFolder" names, a line each: a number and the names of fields. To the last of them it
+// replies with the file "answer": that number, the process, and the controls that the user sees.
 #import <AppKit/AppKit.h>
 #import <GNUstepGUI/GSDisplayServer.h>
 #import <objc/runtime.h>
 
-static const NSTimeInterval timeBetweenLooks = 0.02;
+#include <fcntl.h>
+#include <unistd.h>
 
-@interface ControlFinder : NSObject {
+@interface ControlFinder : NSObject <RunLoopEvents> {
     NSString* folder;
-    id answered;
 }
 @end
 
@@ -21,15 +21,6 @@ static const NSTimeInterval timeBetweenLooks = 0.02;
 - (BOOL)isEnabled;
 - (NSView*)controlNamed:(NSString*)name;
 @end
-
-static NSDictionary* propertyList(NSString* path) {
-    NSData* data = [NSData dataWithContentsOfFile:path];
-    return data == nil ? nil
-                       : [NSPropertyListSerialization propertyListWithData:data
-                                                                   options:NSPropertyListImmutable
-                                                                    format:NULL
-                                                                     error:NULL];
-}
 
 static NSNumber* whole(CGFloat number) {
     return [NSNumber numberWithInteger:(NSInteger)number];
@@ -123,27 +114,46 @@ static NSArray* controlsOnTheScreen(NSArray* fields) {
     return controls;
 }
 
+/// The words of the last line in the pipe, nil when there is none.
+static NSArray* lastQuestion(int pipe) {
+    char bytes[4096];
+    const ssize_t count = read(pipe, bytes, sizeof bytes);
+    if (count <= 0)
+        return nil;
+    NSString* lines = [[[NSString alloc] initWithBytes:bytes
+                                                length:(NSUInteger)count
+                                              encoding:NSUTF8StringEncoding] autorelease];
+    NSCharacterSet* ends = [NSCharacterSet newlineCharacterSet];
+    NSString* last =
+        [[[lines stringByTrimmingCharactersInSet:ends] componentsSeparatedByCharactersInSet:ends] lastObject];
+    return [last componentsSeparatedByString:@" "];
+}
+
 @implementation ControlFinder
+
+// The host is left alone until a question comes: a signal that it handles where it is interrupted must find
+// it idle.
+- (void)listen {
+    const char* path = [[folder stringByAppendingPathComponent:@"questions"] fileSystemRepresentation];
+    void* const pipe = (void*)(intptr_t)open(path, O_RDWR | O_NONBLOCK);
+    NSString* const modes[] = {NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode};
+    for (int index = 0; index < 3; ++index)
+        [[NSRunLoop currentRunLoop] addEvent:pipe type:ET_RDESC watcher:self forMode:modes[index]];
+}
 
 - (id)init {
     if ((self = [super init]) != nil) {
         folder = [[[NSUserDefaults standardUserDefaults] stringForKey:@"ControlFinderFolder"] retain];
-        NSTimer* timer = [NSTimer timerWithTimeInterval:timeBetweenLooks
-                                                 target:self
-                                               selector:@selector(look)
-                                               userInfo:nil
-                                                repeats:YES];
-        [[NSRunLoop currentRunLoop] addTimer:timer forMode:NSDefaultRunLoopMode];
-        [[NSRunLoop currentRunLoop] addTimer:timer forMode:NSModalPanelRunLoopMode];
-        [[NSRunLoop currentRunLoop] addTimer:timer forMode:NSEventTrackingRunLoopMode];
+        [self listen];
     }
     return self;
 }
 
-- (void)answer:(NSDictionary*)question {
-    NSArray* controls = controlsOnTheScreen([question objectForKey:@"fields"]);
-    NSDictionary* answer =
-        [NSDictionary dictionaryWithObjectsAndKeys:answered, @"number", controls, @"controls", nil];
+- (void)answer:(NSArray*)question {
+    NSArray* fields = [question subarrayWithRange:NSMakeRange(1, [question count] - 1)];
+    NSDictionary* answer = [NSDictionary
+        dictionaryWithObjectsAndKeys:[question objectAtIndex:0], @"number", [NSNumber numberWithInt:getpid()],
+                                     @"process", controlsOnTheScreen(fields), @"controls", nil];
     NSData* data = [NSPropertyListSerialization dataWithPropertyList:answer
                                                               format:NSPropertyListXMLFormat_v1_0
                                                              options:0
@@ -151,14 +161,10 @@ static NSArray* controlsOnTheScreen(NSArray* fields) {
     [data writeToFile:[folder stringByAppendingPathComponent:@"answer"] atomically:YES];
 }
 
-- (void)look {
-    NSDictionary* question = propertyList([folder stringByAppendingPathComponent:@"question"]);
-    id number = [question objectForKey:@"number"];
-    if (number == nil || [number isEqual:answered])
-        return;
-    [answered release];
-    answered = [number retain];
-    [self answer:question];
+- (void)receivedEvent:(void*)pipe type:(RunLoopEventType)type extra:(void*)extra forMode:(NSString*)mode {
+    NSArray* question = lastQuestion((int)(intptr_t)pipe);
+    if (question != nil)
+        [self answer:question];
 }
 
 @end

@@ -1,5 +1,5 @@
-// A sandboxed host that asks the plug-in's principal class for the pane's operations by name, and prints the
-// answers: asking_host -Pane PATH
+// A sandboxed host that sends the plug-in's principal class the pane's operations, and prints what they
+// return: asking_host -Pane PATH
 #import <AppKit/AppKit.h>
 #import <PreferencePanes/PreferencePanes.h>
 
@@ -27,18 +27,18 @@
 - (id)loginItemRegistrar;
 @end
 
-static void tell(const char* name, NSString* answer) {
-    printf("%s: %s\n", name, [answer UTF8String]);
+static void print(const char* name, NSString* result) {
+    printf("%s: %s\n", name, [result UTF8String]);
 }
 
 static void ask(NSPreferencePane* pane) {
     NSButton* button = [[pane mainView] valueForKey:@"toggleLaunchButton"];
     [button setTitle:@""];
     [pane updateToggleButtonTitle];
-    tell("updateToggleButtonTitle", [button title]);
-    tell("appIsPresentInLoginItems", [pane appIsPresentInLoginItems] ? @"YES" : @"NO");
-    tell("sorterAppURL", [[[pane sorterAppURL] path] lastPathComponent]);
-    tell("loginItemRegistrar", [[pane loginItemRegistrar] description]);
+    print("updateToggleButtonTitle", [button title]);
+    print("appIsPresentInLoginItems", [pane appIsPresentInLoginItems] ? @"YES" : @"NO");
+    print("sorterAppURL", [[[pane sorterAppURL] path] lastPathComponent]);
+    print("loginItemRegistrar", [[pane loginItemRegistrar] description]);
     [pane deleteFullScreenSettings];
     [pane showSorterApplication];
     [pane closeSorterApplication];

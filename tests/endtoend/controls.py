@@ -3,7 +3,7 @@
 import os
 import plistlib
 
-from session import act_until, wait_until
+from session import act_until, is_alive, wait_until, wait_until_idle
 
 LISTENING = "Type shortcut"
 
@@ -19,25 +19,32 @@ class Controls:
         self.session = session
         self.fields = list(fields)
         self.number = 0
+        self.host = None  # the process that replied last
         self.folder = session.folder / "controls"
         self.folder.mkdir()
+        os.mkfifo(self.folder / "questions")
+        # Open for as long as this program runs: a pipe that nobody has open forgets a question.
+        self.questions = os.open(self.folder / "questions", os.O_RDWR)
         self.options = ["-GSAppKitUserBundles", f'("{os.environ["CONTROL_FINDER"]}")', "-ControlFinderFolder",
                         str(self.folder)]
 
     # --- What is on the screen
 
     def all(self):
-        """The controls that are on the screen now."""
+        """The controls that are on the screen now; none when the host has ended."""
         self.number += 1
-        question = self.folder / "new question"
-        question.write_bytes(plistlib.dumps({"number": self.number, "fields": self.fields}))
-        question.rename(self.folder / "question")
-        return wait_until(self._answer, "the host to say where its controls are")["controls"]
+        os.write(self.questions, (" ".join([str(self.number), *self.fields]) + "\n").encode())
+        answer = wait_until(lambda: self._answer() or self._answer_of_none(), "the host to say where its controls are")
+        self.host = answer["process"]
+        return answer["controls"]
 
     def _answer(self):
         file = self.folder / "answer"
         answer = plistlib.loads(file.read_bytes()) if file.exists() else {}
-        return answer if answer.get("number") == self.number else None
+        return answer if answer.get("number") == str(self.number) else None
+
+    def _answer_of_none(self):
+        return {"process": None, "controls": []} if self.host and not is_alive(self.host) else None
 
     def find(self, **wanted):
         """The first control that has these values; nothing without one."""
@@ -59,8 +66,11 @@ class Controls:
 
     def _click_once(self, wanted):
         control = self.find(**wanted)
-        # While the window server and the application see different sizes, they also see different places.
-        if control is None or self._size_on_screen(control["window"]) != control["content"][2:]:
+        if control is None:
+            return False
+        # While windows change, the application takes a click for one in another place.
+        wait_until_idle(self.host)
+        if self.find(**wanted) != control or self._size_on_screen(control["window"]) != control["content"][2:]:
             return False
         left, top, width, height = control["place"]
         self._input("mousemove", "--window", control["window"], left + width // 2, top + height // 2,

@@ -3,7 +3,7 @@
 import signal
 import subprocess
 
-from session import QUARRYBOOK, wait_until
+from session import QUARRYBOOK, wait_until, wait_until_idle
 
 
 class Host:
@@ -30,6 +30,9 @@ class Host:
         """Waits until the host plays that line."""
         wait_until(lambda: f"> {line}" in self.lines() or self.process.poll(), f"'{line}'", self.printed)
         assert f"> {line}" in self.lines(), f"the host ended before '{line}':\n{self.printed()}"
+
+    def wait_until_idle(self):
+        wait_until_idle(self.process.pid)
 
     def finish(self):
         """Waits for the host's end; returns the lines that it printed. Fails unless it ended with success."""

@@ -1,4 +1,4 @@
-// A sandboxed host that shows the recorder which the pane hides there: revealing_host -Pane PATH
+// A sandboxed host that shows the recorder that the pane hides in it: revealing_host -Pane PATH
 #import <AppKit/AppKit.h>
 #import <PreferencePanes/PreferencePanes.h>
 

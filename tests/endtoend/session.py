@@ -19,6 +19,8 @@ HIDE_LIST = "UserSpecifiedFullScreenApplications"
 LIMIT = 20  # seconds
 ATTEMPT = 2  # seconds in which a click or a key that was not lost has its effect
 TIME_BETWEEN_LOOKS = 0.02
+LOOKS_AT_AN_IDLE_PROCESS = 5
+TIME_OF_AN_IDLE_PROCESS = 0.01  # seconds that it runs between these looks: it may have a timer
 WINDOW_MANAGER = pathlib.Path(__file__).resolve().parents[2] / "scripts/openbox.xml"
 
 
@@ -202,6 +204,26 @@ def read_process_file(process, name):
         return pathlib.Path(f"/proc/{process}/{name}").read_text()
     except OSError:
         return ""
+
+
+def wait_until_idle(process):
+    """Waits until the process has slept at some looks in a row and hardly run between them, as one does whose events
+    are all handled. One that has ended is idle."""
+    looks = []
+
+    def is_idle():
+        looks.append(look_at(process))
+        latest = looks[-LOOKS_AT_AN_IDLE_PROCESS:]
+        return (len(latest) == LOOKS_AT_AN_IDLE_PROCESS and all(sleeps for sleeps, _ in latest)
+                and latest[-1][1] - latest[0][1] < TIME_OF_AN_IDLE_PROCESS)
+
+    wait_until(is_idle, f"process {process} to be idle", lambda: looks[-LOOKS_AT_AN_IDLE_PROCESS:])
+
+
+def look_at(process):
+    """Whether the process sleeps, and the seconds for which it has run."""
+    time_run = read_process_file(process, "schedstat").split()[:1] or ["0"]
+    return "\nState:\tR" not in read_process_file(process, "status"), int(time_run[0]) / 1e9
 
 
 def is_alive(process):
