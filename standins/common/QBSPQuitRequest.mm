@@ -42,7 +42,7 @@ static void maskRequests(int how) {
     std::signal(SIGTERM, passOn);
 }
 
-+ (void)heed {
++ (void)accept {
     if (pipe2(pipeEnds.data(), O_CLOEXEC) == 0)
         [self listen];
     maskRequests(SIG_UNBLOCK);

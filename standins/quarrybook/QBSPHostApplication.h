@@ -2,7 +2,7 @@
 
 #import <AppKit/AppKit.h>
 
-/// The application object of Quarrybook. It answers the pane which build and which edition it is.
+/// The application object of Quarrybook. The pane asks it which build and which edition this is.
 @interface QBSPHostApplication : NSApplication {
     BOOL sandboxed;
     BOOL pro;

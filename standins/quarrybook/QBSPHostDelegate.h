@@ -15,7 +15,7 @@ struct Options;
     QBSPScenarioPlayer* player;
 }
 
-/// The options must stay as long as this.
+/// The options are not copied: they must outlive this object.
 - (id)initWithCommandLine:(const quarrybook::Options*)theOptions;
 
 @end

@@ -23,7 +23,8 @@
 /// Makes the pane and loads its view, the first time.
 - (NSView*)mainView;
 
-/// Before and after the view appears, and before and after it goes. They do nothing out of turn.
+/// Before and after the view appears, and before and after it goes. Each does nothing when it is not its
+/// turn.
 - (void)willSelect;
 - (void)didSelect;
 - (void)willUnselect;

@@ -5,7 +5,7 @@
 #import <AppKit/AppKit.h>
 
 /// Quarrybook's preferences: a row of buttons, one for each page, and the chosen page below it. The pane
-/// hears of every way in which it is shown and left.
+/// is notified whichever way it is shown and left.
 @interface QBSPPreferencesWindow : NSObject {
     NSWindow* window;
     NSView* general;
@@ -24,7 +24,7 @@
 - (NSButton*)generalButton;
 - (NSButton*)sorterButton;
 
-/// Tells the pane, if it is shown, that it is being left.
+/// Notifies the pane, if it is shown, that it is being left.
 - (void)leavePane;
 
 @end

@@ -8,7 +8,7 @@ namespace quarrybook {
 struct Scenario;
 }
 
-/// Plays a scenario, one command after the other, from the run loop. It prints each command and its answer; a
+/// Plays a scenario, one command after the other, from the run loop. It prints each command and its result; a
 /// wrong line ends the program with status 2.
 @interface QBSPScenarioPlayer : NSObject {
     std::unique_ptr<quarrybook::Scenario> playing;
@@ -22,7 +22,7 @@ struct Scenario;
        preferences:(QBSPPreferencesWindow*)preferences
             runner:(QBSPPaneRunner*)runner;
 
-/// Starts. The target is sent the message at the end.
+/// Starts. At the end the target receives the message.
 - (void)playAndSend:(SEL)message to:(id)target;
 
 @end

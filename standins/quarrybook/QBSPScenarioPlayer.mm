@@ -106,8 +106,8 @@ void QBSPQuitWithStatus(int status) {
 
 - (void)pulse:(NSTimer*)aTimer {
     Scenario& scenario = *playing;
-    // A click lets the run loop go on while it shows, and the next command waits for its end. But a modal
-    // window that opened within a command is what the next command is for.
+    // The run loop runs while a click is shown, and the next command waits for the end of that. But a modal
+    // window that opened during a command is what the next command is for.
     NSWindow* modalWindow = [NSApp modalWindow];
     const bool waits = busy && (modalWindow == nil || modalWindow == modalWindowBefore);
     if (waits || [NSDate timeIntervalSinceReferenceDate] < scenario.resumeAt)
@@ -137,7 +137,7 @@ void QBSPQuitWithStatus(int status) {
         return YES;
     }
     if ([NSDate timeIntervalSinceReferenceDate] > scenario.giveUpAt)
-        throw ScenarioError("that did not come about");
+        throw ScenarioError("waited in vain for '" + scenario.lines[scenario.next - 1].text + "'");
     return NO;
 }
 

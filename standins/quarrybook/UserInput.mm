@@ -31,14 +31,14 @@ constexpr Key keys[] = {
     {124, 114, 0xf703}, {125, 116, 0xf701}, {126, 111, 0xf700},
 };
 
-// Out of the box AppKit here tells Alt as Command and the Super key as Help.
+// Without settings of its own AppKit here reports Alt as Command and the Super key as Help.
 std::uint64_t eventFlags(std::uint64_t flags) {
-    std::uint64_t told = flags & (NSShiftKeyMask | NSControlKeyMask);
+    std::uint64_t reported = flags & (NSShiftKeyMask | NSControlKeyMask);
     if ((flags & NSAlternateKeyMask) != 0)
-        told |= NSCommandKeyMask;
+        reported |= NSCommandKeyMask;
     if ((flags & NSCommandKeyMask) != 0)
-        told |= NSHelpKeyMask;
-    return told;
+        reported |= NSHelpKeyMask;
+    return reported;
 }
 
 NSEvent* mouseEvent(NSEventType type, NSView* view, NSPoint point) {
@@ -67,7 +67,7 @@ NSEvent* keyEvent(NSEventType type, NSWindow* window, const Key& key, std::uint6
                              keyCode:key.x11];
 }
 
-// A modal loop does not look at its end until an event comes, and the timer lets one come.
+// A modal loop notices that it should end only at the next event, and a timer brings one.
 void wakeModalLoop(NSWindow* modalWindow) {
     NSTimer* timer = [NSTimer timerWithTimeInterval:0.05
                                              target:modalWindow

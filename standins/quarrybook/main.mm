@@ -12,7 +12,7 @@ using quarrybook::Options;
 
 namespace {
 
-// AppKit takes every word that it does not know for a file to open, and must not see our own options.
+// AppKit takes each word that it does not know for a file to open, so it must not see our own options.
 void hideOptionsFromAppKit(char* program, const Options& options, char** environment) {
     std::vector<char*> words{program};
     for (const std::string& word : options.forAppKit)
@@ -29,7 +29,7 @@ void runApplication(const Options& options) {
     [application setPro:options.edition == Edition::full ? YES : NO];
     QBSPHostDelegate* delegate = [[QBSPHostDelegate alloc] initWithCommandLine:&options];
     [application setDelegate:(id)delegate];
-    [QBSPQuitRequest heed];
+    [QBSPQuitRequest accept];
     [application run];
     [delegate release];
 }

@@ -2,10 +2,10 @@
 
 #import <Foundation/Foundation.h>
 
-/// Told of the host's notices.
+/// Is notified of what hosts post.
 @protocol QBSPHostNotices
 
-/// The host of that name stored other hot keys.
+/// The host that the notice names stored other hot keys.
 - (void)hotKeysChanged:(NSNotification*)notice;
 
 /// The user has left the host's pane after changing hot keys.
@@ -19,7 +19,7 @@
 
 @end
 
-/// Listens to what any host's pane posts, also when the notification daemon has to be started anew.
+/// Listens to what any host's pane posts, and listens again after the notification daemon died.
 @interface QBSPHostListener : NSObject {
     id<QBSPHostNotices> receiver;
 }

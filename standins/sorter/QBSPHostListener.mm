@@ -32,14 +32,14 @@ static void addObserver(id receiver, SEL message, NSString* notice) {
 }
 
 - (void)listenAgain {
-    // Should the daemon not answer, this raises before the next attempt is called off.
+    // Without a daemon this raises before the next attempt is called off.
     [self performSelector:_cmd withObject:nil afterDelay:timeBetweenAttempts];
     [self listen];
     [NSObject cancelPreviousPerformRequestsWithTarget:self selector:_cmd object:nil];
     [receiver listensAgain];
 }
 
-// The daemon forgets its observers when it dies. The centre must notice first that it is gone.
+// The observers die with the daemon. The centre must first notice that it is gone.
 - (void)connectionDied:(NSNotification*)notification {
     [self performSelector:@selector(listenAgain) withObject:nil afterDelay:0];
 }

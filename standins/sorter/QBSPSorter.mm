@@ -10,7 +10,7 @@
 static NSString* const usualHost = @"Quarrybook";
 static NSString* const visibilityEntry = @"visibility";
 
-// Whoever posts is the host whose settings changed.
+// The poster is the host whose settings changed.
 static NSString* hostOf(NSNotification* notice) {
     return [[notice object] isKindOfClass:[NSString class]] ? [notice object] : usualHost;
 }
@@ -60,7 +60,7 @@ static std::string lineOf(NSNotification* notice, const std::string& values) {
     [tab setVisible:stores->tabIsVisible(usualHost)];
     listener = [[QBSPHostListener alloc] initWithReceiver:self];
     [listener listen];
-    // The launch is over only when the run loop goes round.
+    // The launch ends only once the run loop runs.
     [self performSelector:@selector(logStart) withObject:nil afterDelay:0];
 }
 

@@ -7,7 +7,7 @@
 
 - (id)init;
 
-/// Shows the tab without taking the keyboard from anyone, or hides it.
+/// Shows the tab without taking the keyboard from another window, or hides it.
 - (void)setVisible:(BOOL)visible;
 
 @end

@@ -6,7 +6,7 @@
 
 namespace standin {
 
-/// What the Sorter and the host share, read afresh from the files with every question.
+/// What the Sorter and the host share, read from the files for each call.
 class Stores {
   public:
     /// The stores of the Sorter of that bundle identifier.
@@ -18,7 +18,7 @@ class Stores {
     /// Reads whether the host wants the tab hidden: "key=value".
     [[nodiscard]] std::string visibility(NSString* host) const;
 
-    /// True when the tab is to be seen.
+    /// True when the tab should be shown.
     [[nodiscard]] bool tabIsVisible(NSString* host) const;
 
     /// Reads the list of applications in whose full-screen mode the Sorter hides: "key=value".

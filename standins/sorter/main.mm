@@ -6,14 +6,14 @@
 int main() {
     [QBSPQuitRequest hold];
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-    // Whoever reads its output may go at any time.
+    // The reader of its output may end at any time.
     std::signal(SIGPIPE, SIG_IGN);
     // Its only window is the tab.
     [[NSUserDefaults standardUserDefaults]
         registerDefaults:[NSDictionary dictionaryWithObject:@"YES" forKey:@"GSSuppressAppIcon"]];
     QBSPSorter* sorter = [[QBSPSorter alloc] init];
     [[NSApplication sharedApplication] setDelegate:sorter];
-    [QBSPQuitRequest heed];
+    [QBSPQuitRequest accept];
     [NSApp run];
     [sorter release];
     [pool release];

@@ -3,8 +3,8 @@
 #import <Foundation/Foundation.h>
 
 /// The host's registrar: keeps the Sorter's login item, and starts and stops the Sorter of the host's
-/// edition. A stand-in's switch for tests: while QUARRYBOOK_REGISTRAR_REFUSES is set in the environment, it
-/// changes no login item and answers NO.
+/// edition. For tests: while QUARRYBOOK_REGISTRAR_REFUSES is set in the environment, it
+/// changes no login item and returns NO.
 @interface QBSPSorterRegistrar : NSObject
 
 /// YES when the application at that URL is among the user's login items and not switched off there.
@@ -16,13 +16,13 @@
 /// Takes the application out of the login items. YES when it is not there afterwards.
 - (BOOL)unregisterApplication:(NSURL*)applicationURL;
 
-/// Tells on standard output that the system's accounts preferences were asked for.
+/// Prints on standard output that the system's accounts preferences were asked for.
 - (void)showAccountsSystemPreferencePane;
 
-/// Starts the Sorter unless it runs. Waits for nothing.
+/// Starts the Sorter unless it runs. Returns at once.
 - (void)showSorterApplication;
 
-/// Asks the Sorter to quit. Waits for nothing.
+/// Asks the Sorter to quit. Returns at once.
 - (void)closeSorterApplication;
 
 @end

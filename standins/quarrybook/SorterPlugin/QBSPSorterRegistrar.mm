@@ -10,7 +10,7 @@
 #include <iostream>
 #include <string>
 
-// What the host's application object may answer.
+// What the host's application object may respond to.
 @interface NSObject (QuarrybookEdition)
 - (BOOL)isPro;
 @end
@@ -62,7 +62,7 @@ std::string sorterBundle() {
     return isRegistered(loginItemAt(applicationURL));
 }
 
-// An entry that says so already may hold more that is the user's.
+// An entry that is there already may hold settings of the user's.
 - (BOOL)registerApplication:(NSURL*)applicationURL {
     const LoginItem item = loginItemAt(applicationURL);
     if (refuses() || !isApplication(item))

@@ -22,7 +22,7 @@ protected:
 
 } // namespace
 
-TEST_P(AlertsContract, TheFirstButtonIsAnsweredByItsNumberAndTheNextByOneMore) {
+TEST_P(AlertsContract, TheFirstButtonReturnsItsNumberAndTheNextOneMore) {
     stage->letUserPress("First");
     EXPECT_EQ(ask(), platform::NSAlertFirstButtonReturn);
 
@@ -37,7 +37,7 @@ TEST_P(AlertsContract, TheUserReadsTheTextsAndTheButtons) {
 
     const auto texts = stage->textsOfAlert();
     for (const char* expected : {"Größe \"unknown\"", "Nobody knows it.", "First", "Second"})
-        EXPECT_EQ(std::ranges::count(texts, expected), 1) << expected;
+        EXPECT_EQ(std::ranges::count(texts, expected), 1) << "the alert should show once: " << expected;
 }
 
 TEST_P(AlertsContract, TheFirstButtonIsTheDefaultButton) {

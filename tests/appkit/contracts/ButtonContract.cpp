@@ -27,7 +27,7 @@ TEST_P(ButtonContract, ItShowsItsTitle) {
     }
 }
 
-TEST_P(ButtonContract, ItIsHiddenAndDisabledAsItIsTold) {
+TEST_P(ButtonContract, ItIsHiddenAndDisabledAsItWasSet) {
     for (const bool yes : {true, false}) {
         button.setHidden(yes);
         button.setEnabled(!yes);
@@ -36,7 +36,7 @@ TEST_P(ButtonContract, ItIsHiddenAndDisabledAsItIsTold) {
     }
 }
 
-TEST_P(ButtonContract, ItShowsAndAnswersTheStateThatWasSet) {
+TEST_P(ButtonContract, ItShowsAndReturnsTheStateThatWasSet) {
     for (const ButtonState state : {ButtonState::on, ButtonState::mixed, ButtonState::off}) {
         button.setState(state);
         EXPECT_EQ(button.state(), state);
@@ -44,7 +44,7 @@ TEST_P(ButtonContract, ItShowsAndAnswersTheStateThatWasSet) {
     }
 }
 
-TEST_P(ButtonContract, ItAnswersTheStateThatTheUserGaveIt) {
+TEST_P(ButtonContract, ItReturnsTheStateThatTheUserGaveIt) {
     button.setState(ButtonState::off);
 
     stage->clickButton();

@@ -31,7 +31,7 @@ auto onBothSides() {
                            Side<Stage>{"AppKit", &Stage::appKit});
 }
 
-/// For what the simulation leaves to whoever drives it.
+/// For what the simulation leaves to the program that drives it.
 template <class Stage>
 auto onAppKit() {
     return testing::Values(Side<Stage>{"AppKit", &Stage::appKit});

@@ -9,7 +9,7 @@ namespace {
 
 class DistributedNotificationCenterContract : public Contract<NotificationsStage> {
 protected:
-    void post(const Heard& notification) {
+    void post(const Received& notification) {
         stage->notifications().postNotificationName({notification.name}, notification.object,
                                                     notification.userInfo,
                                                     platform::NotificationOptions::deliverImmediately);
@@ -18,42 +18,42 @@ protected:
 
 } // namespace
 
-TEST_P(DistributedNotificationCenterContract, AListenerHearsNameObjectAndUserInformation) {
-    const Heard notification{"First", "Quarrybook", Dictionary{{"visible", true}, {"name", "Größe"}}};
+TEST_P(DistributedNotificationCenterContract, AListenerReceivesNameObjectAndUserInformation) {
+    const Received notification{"First", "Quarrybook", Dictionary{{"visible", true}, {"name", "Größe"}}};
 
     post(notification);
 
-    EXPECT_TRUE(stage->hears(notification));
+    EXPECT_TRUE(stage->receivesNext(notification));
 }
 
 TEST_P(DistributedNotificationCenterContract, ANotificationNeedsNoUserInformation) {
-    const Heard notification{"First", "Größe", std::nullopt};
+    const Received notification{"First", "Größe", std::nullopt};
 
     post(notification);
 
-    EXPECT_TRUE(stage->hears(notification));
+    EXPECT_TRUE(stage->receivesNext(notification));
 }
 
-TEST_P(DistributedNotificationCenterContract, NotificationsAreHeardInTheirOrder) {
-    const Heard first{"First", "Quarrybook", std::nullopt};
-    const Heard second{"Second", "Quarrybook", Dictionary{{"visible", false}}};
+TEST_P(DistributedNotificationCenterContract, NotificationsArriveInTheirOrder) {
+    const Received first{"First", "Quarrybook", std::nullopt};
+    const Received second{"Second", "Quarrybook", Dictionary{{"visible", false}}};
 
     post(first);
     post(second);
     post(first);
 
-    EXPECT_TRUE(stage->hears(first));
-    EXPECT_TRUE(stage->hears(second));
-    EXPECT_TRUE(stage->hears(first));
+    EXPECT_TRUE(stage->receivesNext(first));
+    EXPECT_TRUE(stage->receivesNext(second));
+    EXPECT_TRUE(stage->receivesNext(first));
 }
 
-TEST_P(DistributedNotificationCenterContract, ANotificationThatNobodyListensToIsHarmless) {
-    const Heard heard{"Second", "Quarrybook", std::nullopt};
+TEST_P(DistributedNotificationCenterContract, ANotificationWithoutAListenerIsHarmless) {
+    const Received expected{"Second", "Quarrybook", std::nullopt};
 
     post({"Nobody", "Quarrybook", Dictionary{{"visible", true}}});
-    post(heard);
+    post(expected);
 
-    EXPECT_TRUE(stage->hears(heard));
+    EXPECT_TRUE(stage->receivesNext(expected));
 }
 
 INSTANTIATE_TEST_SUITE_P(On, DistributedNotificationCenterContract, onBothSides<NotificationsStage>(),

@@ -24,7 +24,7 @@ void failAWhile(id, SEL, NSString*, NSString*, NSDictionary*, BOOL) {
         [NSException raise:NSGenericException format:@"the daemon died"];
 }
 
-/// For as long as it exists, the system's centre fails so many times.
+/// While it exists, the system's centre fails so many times.
 class FailingCenter {
   public:
     explicit FailingCenter(int failures) {
@@ -40,7 +40,7 @@ class FailingCenter {
   private:
     Method method_ = class_getInstanceMethod([NSDistributedNotificationCenter class], @selector
                                              (postNotificationName:object:userInfo:deliverImmediately:));
-    // By way of the type that stands for any function: the runtime's own has other parameters.
+    // Cast by way of a function without parameters: a direct cast between functions that differ is a warning.
     IMP original_ =
         method_setImplementation(method_, reinterpret_cast<IMP>(reinterpret_cast<void (*)()>(failAWhile)));
 };
@@ -60,12 +60,12 @@ class FailingPost : public testing::Test, protected platform::Log {
 
 } // namespace
 
-TEST_F(FailingPost, IsMadeOnceMore) {
+TEST_F(FailingPost, IsTriedOnceMore) {
     const FailingCenter center(1);
 
     post();
 
-    EXPECT_EQ(posts, 2);
+    EXPECT_EQ(posts, 2) << "the post that failed should have been tried once more";
     EXPECT_TRUE(lines.empty());
 }
 
@@ -74,7 +74,7 @@ TEST_F(FailingPost, IsLoggedWhenItFailsAgain) {
 
     post();
 
-    EXPECT_EQ(posts, 2);
+    EXPECT_EQ(posts, 2) << "a second failure should have been the last try";
     EXPECT_EQ(lines, std::vector<std::string>{
                          "ERROR: QBSSorterHideAppUpdated could not be posted: the daemon died"});
 }

@@ -89,7 +89,7 @@ TEST_P(FileManagerRefusalContract, AFolderBelowAFileIsDescribedAsAnError) {
     EXPECT_TRUE(makeFolder(below("a file/a folder")));
 }
 
-// The simulated disk makes any folder that its driver does not forbid.
+// The simulated disk makes every folder, unless the program that drives it forbids that.
 INSTANTIATE_TEST_SUITE_P(On, FileManagerRefusalContract, onAppKit<FilesStage>(), nameOfSide);
 
 } // namespace qbsp::contracts

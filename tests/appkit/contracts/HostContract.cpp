@@ -27,18 +27,18 @@ TEST_P(HostContract, ItIsTheFullEditionWhenTheApplicationSaysSo) {
     }
 }
 
-TEST_P(HostContract, AnApplicationThatDoesNotKnowTheQuestionsCountsAsAnsweringNo) {
+TEST_P(HostContract, AnApplicationThatDoesNotKnowTheQuestionsCountsAsNeither) {
     stage->letHostNotKnowTheQuestions();
 
     EXPECT_FALSE(stage->host().isSandboxed());
     EXPECT_FALSE(stage->host().isPro());
 }
 
-TEST_P(ProcessInfoContract, TheProcessIsCalledAsOthersSeeIt) {
+TEST_P(ProcessInfoContract, TheProcessHasTheNameThatOthersSee) {
     EXPECT_EQ(stage->processInfo().processName(), stage->trueProcessName());
 }
 
-TEST_P(LogContract, ALineIsWrittenAsItIs) {
+TEST_P(LogContract, ALineIsWrittenUnchanged) {
     const std::string line = "ERROR: Größe 100% %@ %s %d of 'Mail'";
 
     const std::string logged = stage->logged([&] { stage->log().log(line); });
@@ -47,7 +47,7 @@ TEST_P(LogContract, ALineIsWrittenAsItIs) {
     EXPECT_TRUE(logged.ends_with('\n'));
 }
 
-TEST_P(LogContract, EachLineIsOfItsOwn) {
+TEST_P(LogContract, EachMessageIsALineOfItsOwn) {
     const std::string logged = stage->logged([this] {
         stage->log().log("one");
         stage->log().log("two");

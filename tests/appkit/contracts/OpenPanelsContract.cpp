@@ -28,7 +28,7 @@ protected:
 
 } // namespace
 
-TEST_P(OpenPanelsContract, WhatTheUserChoseIsToldOnceAfterTheCallHasReturned) {
+TEST_P(OpenPanelsContract, TheHandlerIsCalledOnceAndAfterTheCallHasReturned) {
     stage->letUserChoose("Mail.app");
 
     begin();
@@ -39,17 +39,17 @@ TEST_P(OpenPanelsContract, WhatTheUserChoseIsToldOnceAfterTheCallHasReturned) {
     EXPECT_EQ(panel->chosenURL(), platform::URL::fileURLWithPath(stage->folder() + "/Mail.app"));
 }
 
-TEST_P(OpenPanelsContract, ACancelledPanelAnswersAnotherResult) {
+TEST_P(OpenPanelsContract, ACancelledPanelGivesAnotherResult) {
     stage->letUserCancel();
 
     begin();
     runUntilAnswered();
 
-    ASSERT_EQ(results.size(), 1U);
+    ASSERT_EQ(results.size(), 1U) << "the handler should have been called once";
     EXPECT_NE(results.front(), platform::NSOKButton);
 }
 
-TEST_P(OpenPanelsContract, NothingIsChosenBeforeAnythingWas) {
+TEST_P(OpenPanelsContract, NoFilesAreChosenAtFirst) {
     EXPECT_EQ(panel->chosenURL(), std::nullopt);
 }
 

@@ -81,7 +81,7 @@ TEST_P(PreferencesContract, NoValueRemovesTheKey) {
     EXPECT_FALSE(stage->domainSeenByOthers(sorterDomain).contains("Key"));
 }
 
-TEST_P(PreferencesContract, DomainsAndKeysAreApart) {
+TEST_P(PreferencesContract, DomainsAndKeysAreSeparate) {
     preferences.setAppValue(key, "a text", sorter);
 
     EXPECT_FALSE(preferences.copyAppValue(key, other).exists());
@@ -129,7 +129,7 @@ TEST_P(PreferencesContract, NothingIsSetInTheSuite) {
     EXPECT_EQ(preferences.copyAppValue(key, sorter), Value("of the application"));
 }
 
-TEST_P(PreferencesContract, AFlushThatFailedAnswersFalseAndTheNextOneCarriesWhatWasSet) {
+TEST_P(PreferencesContract, AFlushThatFailsReturnsFalseAndTheNextOneWritesWhatWasSet) {
     const bool flushed = stage->flushInVain([this] { preferences.setAppValue(key, "a text", sorter); },
                                             [this] { return flush(); });
 

@@ -78,7 +78,7 @@ TEST_P(PropertyListsContract, NothingIsWrittenWithoutAURL) {
     EXPECT_FALSE(propertyLists.writeToURL({{"Key", true}}, std::nullopt, Atomically::yes));
 }
 
-TEST_P(PropertyListsContract, AWriteThatFailedAnswersFalseAndLeavesWhatWasThere) {
+TEST_P(PropertyListsContract, AWriteThatFailsReturnsFalseAndLeavesWhatWasThere) {
     EXPECT_TRUE(write({{"Old", true}}));
     stage->block();
     EXPECT_FALSE(write({{"New", true}}));

@@ -33,7 +33,7 @@ TEST_P(QBSPSorterControlContract, AnApplicationIsALoginItemFromAddingToRemoving)
     EXPECT_FALSE(registrar->applicationIsRegistered(application));
 }
 
-TEST_P(QBSPSorterControlContract, ARefusalIsToldAndChangesNothing) {
+TEST_P(QBSPSorterControlContract, ARefusalIsReturnedAndChangesNothing) {
     EXPECT_TRUE(registrar->registerApplication(application));
     stage->letRegistrarRefuse();
 
@@ -42,7 +42,7 @@ TEST_P(QBSPSorterControlContract, ARefusalIsToldAndChangesNothing) {
     EXPECT_FALSE(registrar->registerApplication(application));
 }
 
-TEST_P(QBSPSorterControlContract, TheRegistrarIsToldOfTheApplicationOrThatItIsMissing) {
+TEST_P(QBSPSorterControlContract, TheRegistrarReceivesTheApplicationOrNil) {
     std::ignore = registrar->applicationIsRegistered(application);
     std::ignore = registrar->registerApplication(application);
     std::ignore = registrar->unregisterApplication(std::nullopt);

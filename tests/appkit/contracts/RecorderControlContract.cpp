@@ -17,15 +17,15 @@ public:
     bool shortcutRecorderIsKeyCodeAndFlagsTakenReason(const platform::RecorderControl&, std::int64_t,
                                                       platform::CocoaFlags,
                                                       std::optional<std::string>*) override {
-        heard = true;
+        notified = true;
         return false;
     }
 
     void shortcutRecorderKeyComboDidChange(const platform::RecorderControl&, const KeyCombo&) override {
-        heard = true;
+        notified = true;
     }
 
-    bool heard = false;
+    bool notified = false;
 };
 
 class RecorderControlContract : public Contract<ControlsStage> {
@@ -52,13 +52,13 @@ TEST_P(RecorderControlContract, ItShowsTheCombinationThatWasSet) {
     }
 }
 
-TEST_P(RecorderControlContract, ItsDelegateDoesNotHearOfACombinationThatWasSet) {
+TEST_P(RecorderControlContract, ItsDelegateIsNotNotifiedOfACombinationThatWasSet) {
     Delegate delegate;
     recorder.setDelegate(delegate);
 
     recorder.setKeyCombo({.flags = command, .code = 8});
 
-    EXPECT_FALSE(delegate.heard);
+    EXPECT_FALSE(delegate.notified);
 }
 
 TEST_P(RecorderControlContract, ItIsHiddenUntilItIsShownAgain) {

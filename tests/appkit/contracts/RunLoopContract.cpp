@@ -27,7 +27,7 @@ TEST_P(RunLoopContract, AMessageIsSentWhenTheLoopRunsAndNotBefore) {
 
     send([&] { ++sent; }, Seconds(0));
 
-    EXPECT_EQ(sent, 0);
+    EXPECT_EQ(sent, 0) << "the message should wait until the loop runs";
     runUntilSent(sent);
 }
 
@@ -41,7 +41,7 @@ TEST_P(RunLoopContract, AMessageIsSentOnceAndNotBeforeItsDelayHasPassed) {
     EXPECT_GE(stage->runUntil([&] { return sent > 0; }), delay);
     send([&] { ++later; }, delay);
     runUntilSent(later);
-    EXPECT_EQ(sent, 1);
+    EXPECT_EQ(sent, 1) << "the message should have been sent once";
 }
 
 TEST_P(RunLoopContract, MessagesThatWereScheduledEarlierStayScheduled) {
@@ -71,7 +71,7 @@ TEST_P(RunLoopContract, AMessageMaySendAnother) {
     send([&] { send([&] { ++sent; }, Seconds(0.01)); }, Seconds(0.01));
 
     runUntilSent(sent);
-    EXPECT_EQ(sent, 1);
+    EXPECT_EQ(sent, 1) << "the message should have been sent once";
 }
 
 INSTANTIATE_TEST_SUITE_P(On, RunLoopContract, onBothSides<DialogsStage>(), nameOfSide);

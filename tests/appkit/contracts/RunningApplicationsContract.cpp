@@ -30,7 +30,7 @@ const platform::Dictionary idleJob{{"Label", std::string(idleIdentifier.text)}, 
 
 } // namespace
 
-TEST_P(RunningApplicationsContract, AnApplicationRunsFromItsStartToItsEndWhoeverStartedIt) {
+TEST_P(RunningApplicationsContract, AnApplicationCountsAsRunningFromItsStartToItsEnd) {
     EXPECT_FALSE(runs(idleIdentifier));
 
     stage->start();
@@ -50,10 +50,11 @@ TEST_P(RunningApplicationsContract, AnotherIdentifierIsAnotherApplication) {
 
 TEST_P(LaunchServicesContract, AnApplicationIsRegisteredHoweverOften) {
     for (const auto update : {platform::RegistrationUpdate::always, platform::RegistrationUpdate::ifNewer})
-        EXPECT_EQ(stage->launchServices().registerURL(stage->application(), update), 0);
+        EXPECT_EQ(stage->launchServices().registerURL(stage->application(), update), 0)
+            << "an application should be registered with status 0";
 }
 
-TEST_P(LaunchServicesContract, WhatCannotBeRegisteredAnswersAnotherStatus) {
+TEST_P(LaunchServicesContract, WhatCannotBeRegisteredGivesAnotherStatus) {
     EXPECT_NE(stage->launchServices().registerURL(stage->nothing(), platform::RegistrationUpdate::always), 0);
 }
 
@@ -61,7 +62,7 @@ TEST_P(ServiceManagementContract, ThereIsNoJobBeforeOneWasMade) {
     EXPECT_TRUE(jobs().empty());
 }
 
-TEST_P(ServiceManagementContract, AJobTellsItsLabelAndThatItIsOnDemand) {
+TEST_P(ServiceManagementContract, AJobHasItsLabelAndIsOnDemand) {
     stage->makeJob(idleIdentifier);
 
     EXPECT_EQ(jobs(), std::vector{idleJob});
@@ -90,7 +91,7 @@ TEST_P(LoginItemContract, WhatIsNotEmbeddedIsNeitherStartedNorAJob) {
 INSTANTIATE_TEST_SUITE_P(On, RunningApplicationsContract, onBothSides<ApplicationsStage>(), nameOfSide);
 INSTANTIATE_TEST_SUITE_P(On, LaunchServicesContract, onBothSides<ApplicationsStage>(), nameOfSide);
 INSTANTIATE_TEST_SUITE_P(On, ServiceManagementContract, onBothSides<ApplicationsStage>(), nameOfSide);
-// What the simulation runs and lists is its driver's to say.
+// The program that drives the simulation says what runs and is listed there.
 INSTANTIATE_TEST_SUITE_P(On, LoginItemContract, onAppKit<ApplicationsStage>(), nameOfSide);
 
 } // namespace qbsp::contracts

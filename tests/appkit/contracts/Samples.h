@@ -16,7 +16,7 @@ inline void PrintTo(const Value& value, std::ostream* stream) {
 
 namespace qbsp::contracts {
 
-/// A value of every kind that a property list tells apart.
+/// A value of every kind that a property list distinguishes.
 [[nodiscard]] inline std::vector<platform::Value> valuesOfEveryKind() {
     using platform::Array;
     using platform::Dictionary;

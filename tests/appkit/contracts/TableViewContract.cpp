@@ -25,16 +25,16 @@ class TableRowContract : public TableViewContract {};
 
 } // namespace
 
-TEST_P(TableViewContract, ItLearnsOfItsRowsWhenItIsReloaded) {
+TEST_P(TableViewContract, ItShowsTheDataSourcesRowsOnceItIsReloaded) {
     EXPECT_EQ(stage->shownRows(), rowCount);
 
     stage->setRowCount(3);
     table.reloadData();
 
-    EXPECT_EQ(stage->shownRows(), 3);
+    EXPECT_EQ(stage->shownRows(), 3) << "the table should show the rows of its data source";
 }
 
-TEST_P(TableViewContract, ARowIsSelectedAlone) {
+TEST_P(TableViewContract, SelectingARowDeselectsTheOthers) {
     EXPECT_EQ(stage->selectedRows(), Rows());
 
     table.selectRow(0);

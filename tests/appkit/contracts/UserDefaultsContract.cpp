@@ -45,7 +45,7 @@ TEST_P(UserDefaultsContract, OtherProcessesSeeWhatWasFlushedInTheHostsOwnDomain)
     EXPECT_EQ(platform::entry(stage->defaultsSeenByOthers(), "Flag"), Value(true));
 }
 
-TEST_P(UserDefaultsContract, AFlushThatFailedAnswersFalseAndWhatWasSetStaysSet) {
+TEST_P(UserDefaultsContract, AFlushThatFailsReturnsFalseAndKeepsWhatWasSet) {
     const bool flushed = stage->flushInVain([this] { userDefaults.setBoolForKey(true, key); },
                                             [this] { return userDefaults.synchronize(); });
 
@@ -53,7 +53,7 @@ TEST_P(UserDefaultsContract, AFlushThatFailedAnswersFalseAndWhatWasSetStaysSet) 
     EXPECT_EQ(userDefaults.objectForKey(key), Value(true));
 }
 
-TEST_P(UserDefaultsContract, ALaterFlushCarriesWhatOneThatFailedDidNot) {
+TEST_P(UserDefaultsContract, ALaterFlushWritesWhatAFailedOneDidNot) {
     EXPECT_FALSE(stage->flushInVain([this] { userDefaults.setBoolForKey(true, key); },
                                     [this] { return userDefaults.synchronize(); }));
 
@@ -62,7 +62,7 @@ TEST_P(UserDefaultsContract, ALaterFlushCarriesWhatOneThatFailedDidNot) {
     EXPECT_EQ(platform::entry(stage->defaultsSeenByOthers(), "Key"), Value(true));
 }
 
-TEST_P(UserDefaultsContract, AFlushAfterOneThatFailedKeepsWhatOthersSetMeanwhile) {
+TEST_P(UserDefaultsContract, AFlushAfterAFailedOneKeepsWhatOthersSetMeanwhile) {
     userDefaults.setObjectForKey("old", {"Theirs"});
     EXPECT_TRUE(userDefaults.synchronize());
     EXPECT_FALSE(stage->flushInVain([this] { userDefaults.setBoolForKey(true, key); },

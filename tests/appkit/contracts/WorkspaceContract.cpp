@@ -12,11 +12,11 @@ const std::string idle(idleIdentifier.text);
 class Observer final : public platform::TerminationObserver {
 public:
     void appDied(const platform::Notification& notification) override {
-        told.push_back(
+        reported.push_back(
             platform::stringEntry(notification.userInfo, "NSApplicationBundleIdentifier").value_or(""));
     }
 
-    std::vector<std::string> told;
+    std::vector<std::string> reported;
 };
 
 class WorkspaceContract : public Contract<ApplicationsStage> {
@@ -36,28 +36,28 @@ class RunningApplicationContract : public WorkspaceContract {};
 
 } // namespace
 
-TEST_P(WorkspaceContract, ALaunchThatSucceededAnswersTheApplicationAndNoError) {
+TEST_P(WorkspaceContract, ALaunchThatSucceedsReturnsTheApplicationAndNoError) {
     const auto launched = launch();
 
     EXPECT_NE(launched.application, nullptr);
     EXPECT_EQ(launched.error, std::nullopt);
 }
 
-TEST_P(WorkspaceContract, ALaunchThatFailedAnswersAnErrorAndNoApplication) {
+TEST_P(WorkspaceContract, ALaunchThatFailsReturnsAnErrorAndNoApplication) {
     const auto launched = workspace.launchApplicationAtURL(stage->nothing(), withoutActivation);
 
     EXPECT_EQ(launched.application, nullptr);
     EXPECT_FALSE(launched.error.value_or("").empty());
 }
 
-TEST_P(WorkspaceContract, AnObserverIsToldWhichApplicationTerminated) {
+TEST_P(WorkspaceContract, AnObserverIsNotifiedWhichApplicationTerminated) {
     stage->start();
     workspace.addObserver(observer, didTerminate);
 
     stage->end({observer});
 
-    EXPECT_TRUE(stage->eventually([this] { return !observer->told.empty(); }));
-    EXPECT_EQ(observer->told, std::vector{idle});
+    EXPECT_TRUE(stage->eventually([this] { return !observer->reported.empty(); }));
+    EXPECT_EQ(observer->reported, std::vector{idle});
 }
 
 TEST_P(WorkspaceContract, AnObserverIsNotifiedOfWhatItFoundRunningLater) {
@@ -67,11 +67,11 @@ TEST_P(WorkspaceContract, AnObserverIsNotifiedOfWhatItFoundRunningLater) {
 
     stage->end({observer});
 
-    EXPECT_TRUE(stage->eventually([this] { return !observer->told.empty(); }));
-    EXPECT_EQ(observer->told, std::vector{idle});
+    EXPECT_TRUE(stage->eventually([this] { return !observer->reported.empty(); }));
+    EXPECT_EQ(observer->reported, std::vector{idle});
 }
 
-TEST_P(WorkspaceContract, AnObserverThatWasRemovedIsToldNothing) {
+TEST_P(WorkspaceContract, AnObserverThatWasRemovedIsNotNotified) {
     stage->start();
     workspace.addObserver(observer, didTerminate);
     workspace.addObserver(observer, didTerminate);
@@ -80,8 +80,8 @@ TEST_P(WorkspaceContract, AnObserverThatWasRemovedIsToldNothing) {
     workspace.removeObserver(*observer);
 
     stage->end({observer, other});
-    EXPECT_TRUE(stage->eventually([this] { return !other->told.empty(); }));
-    EXPECT_TRUE(observer->told.empty());
+    EXPECT_TRUE(stage->eventually([this] { return !other->reported.empty(); }));
+    EXPECT_TRUE(observer->reported.empty());
 }
 
 TEST_P(WorkspaceContract, AnObserverThatWasNotAddedCanBeRemoved) {
@@ -91,10 +91,10 @@ TEST_P(WorkspaceContract, AnObserverThatWasNotAddedCanBeRemoved) {
     workspace.removeObserver(*observer);
 
     stage->end({other});
-    EXPECT_TRUE(stage->eventually([this] { return !other->told.empty(); }));
+    EXPECT_TRUE(stage->eventually([this] { return !other->reported.empty(); }));
 }
 
-TEST_P(WorkspaceContract, AnObserverIsNotKeptAliveAndIsMissedByNobody) {
+TEST_P(WorkspaceContract, AnObserverIsNotKeptAliveAndTheOthersAreStillNotified) {
     auto gone = std::make_shared<Observer>();
     const std::weak_ptr<Observer> watched = gone;
     stage->start();
@@ -105,7 +105,7 @@ TEST_P(WorkspaceContract, AnObserverIsNotKeptAliveAndIsMissedByNobody) {
 
     EXPECT_TRUE(watched.expired());
     stage->end({other});
-    EXPECT_TRUE(stage->eventually([this] { return !other->told.empty(); }));
+    EXPECT_TRUE(stage->eventually([this] { return !other->reported.empty(); }));
 }
 
 TEST_P(RunningApplicationContract, ARequestToQuitIsDeliveredWhileTheApplicationRuns) {
@@ -115,7 +115,7 @@ TEST_P(RunningApplicationContract, ARequestToQuitIsDeliveredWhileTheApplicationR
     EXPECT_TRUE(launched.application->terminate());
 }
 
-TEST_P(RunningApplicationContract, ARequestToQuitThatCannotBeDeliveredAnswersFalse) {
+TEST_P(RunningApplicationContract, ARequestToQuitThatCannotBeDeliveredReturnsFalse) {
     const auto launched = launch();
     ASSERT_NE(launched.application, nullptr);
 

@@ -43,10 +43,10 @@ TEST_F(AutostartFolder, IsMadeWhenItIsMissing) {
     EXPECT_TRUE(autostart.add(identifier, sorter));
 
     EXPECT_EQ(contentOf(file), desktopEntryText(sorter));
-    EXPECT_EQ(filesIn(folder), 1);
+    EXPECT_EQ(filesIn(folder), 1) << "there should be one entry and no temporary file";
 }
 
-TEST_F(AutostartFolder, TellsTheProgramThatItStarts) {
+TEST_F(AutostartFolder, ReturnsTheProgramThatItStarts) {
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
 
     ASSERT_TRUE(autostart.add(identifier, sorter));
@@ -55,14 +55,14 @@ TEST_F(AutostartFolder, TellsTheProgramThatItStarts) {
     EXPECT_EQ(autostart.program("com.quarrybook.SoloSorter"), std::nullopt);
 }
 
-TEST_F(AutostartFolder, ForgetsWhatIsRemovedAndIsContentWhenNothingIsThere) {
+TEST_F(AutostartFolder, RemovesAnEntryAndSucceedsWhenThereIsNone) {
     ASSERT_TRUE(autostart.add(identifier, sorter));
 
     EXPECT_TRUE(autostart.remove(identifier));
     EXPECT_TRUE(autostart.remove(identifier));
 
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
-    EXPECT_EQ(filesIn(folder), 0);
+    EXPECT_EQ(filesIn(folder), 0) << "the entry should have been removed";
 }
 
 TEST_F(AutostartFolder, HoldsAnEntryThatTheUserSwitchedOffUntilItIsAddedAgain) {
@@ -82,13 +82,13 @@ TEST_F(AutostartFolder, RefusesWhenItCannotBeMade) {
     EXPECT_EQ(contentOf(temporary.path() / "config"), "a file where the folder should be");
 }
 
-TEST_F(AutostartFolder, RefusesWhenAFolderStandsInTheEntrysPlaceAndLeavesNothingBehind) {
+TEST_F(AutostartFolder, RefusesWhenAFolderIsInTheEntrysPlaceAndLeavesNothingBehind) {
     fs::create_directories(file / "full");
 
     EXPECT_FALSE(autostart.add(identifier, sorter));
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
     EXPECT_FALSE(autostart.remove(identifier));
-    EXPECT_EQ(filesIn(folder), 1);
+    EXPECT_EQ(filesIn(folder), 1) << "there should be one entry and no temporary file";
 }
 
 TEST_F(AutostartFolder, IsReplacedAsAWholeFileThatOthersMayRead) {

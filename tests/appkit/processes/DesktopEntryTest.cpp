@@ -13,7 +13,7 @@ namespace xdg {
 
 namespace {
 
-// Paths that a user may have, each with something that an entry's syntax gives a meaning of its own.
+// Paths that a user may have, each with a character that has a meaning in an entry's syntax.
 constexpr const char* oddPrograms[] = {
     "/opt/Quarrybook.app/Quarrybook Sorter",
     "/home/a/say \"hello\"/Sorter",
@@ -53,10 +53,10 @@ TEST_P(OddProgram, GivesAValidEntry) {
     ASSERT_TRUE(writeWhole(folder.path() / "a.desktop", desktopEntryText({"Sorter", GetParam()})));
 
     const auto command = "desktop-file-validate " + (folder.path() / "a.desktop").string();
-    EXPECT_EQ(std::system(command.c_str()), 0);
+    EXPECT_EQ(std::system(command.c_str()), 0) << "the entry should be valid";
 }
 
-TEST_P(OddProgram, StandsInItsCommandLineWithoutAnOpenPercentSign) {
+TEST_P(OddProgram, HasNoUnescapedPercentSignInItsCommandLine) {
     std::string line = commandLine(GetParam());
     for (auto pair = line.find("%%"); pair != std::string::npos; pair = line.find("%%"))
         line.erase(pair, 2);
@@ -77,7 +77,7 @@ TEST(DesktopEntryText, IsWhatADesktopReads) {
               "X-GNOME-Autostart-enabled=true\n");
 }
 
-// A desktop looks the first argument up as it stands, and an equals sign there would set a variable.
+// A desktop takes the first argument unquoted, and an equals sign there would set a variable.
 TEST(DesktopEntryText, LetsTheShellStartAProgramThatMustNotComeFirst) {
     EXPECT_EQ(commandLine("/a=b/50%"), R"("/bin/sh" "-c" "exec \"\$0\"" "/a=b/50%%")");
 }
@@ -101,13 +101,13 @@ TEST(ParsedEntry, IsReadFromItsOwnGroupOnly) {
     EXPECT_TRUE(enabledIn(text));
 }
 
-TEST(ParsedEntry, HasAProgramInQuotesOrWithout) {
+TEST(ParsedEntry, HasAProgramWithOrWithoutQuotes) {
     EXPECT_EQ(programIn("[Desktop Entry]\nExec=/opt/sorter %U\n"), "/opt/sorter");
     EXPECT_EQ(programIn("[Desktop Entry]\nExec=\"/opt/the sorter\" \"an argument\"\n"), "/opt/the sorter");
     EXPECT_EQ(programIn("[Desktop Entry]\nExec=/opt/the\\\\ sorter\n"), "/opt/the sorter");
 }
 
-TEST(ParsedEntry, IsNoneWithoutAProgram) {
+TEST(ParsedEntry, IsAbsentWithoutAProgram) {
     EXPECT_FALSE(parsedDesktopEntry(""));
     EXPECT_FALSE(parsedDesktopEntry("Exec=/opt/sorter"));
     EXPECT_FALSE(parsedDesktopEntry("[Desktop Entry]\n"));

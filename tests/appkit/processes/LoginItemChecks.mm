@@ -29,7 +29,7 @@ class LoginItemCheck : public RealSession {
         const auto jobs = services.copyAllJobDictionaries(platform::JobDomain::userLaunchd);
         if (!jobs || jobs->empty())
             return false;
-        EXPECT_EQ(jobs->size(), 1U);
+        EXPECT_EQ(jobs->size(), 1U) << "the Sorter should be the only job";
         EXPECT_EQ(platform::entry(jobs->front(), "Label"), platform::Value(std::string(embedded.text)));
         return platform::entry(jobs->front(), "OnDemand") == platform::Value(true);
     }
@@ -41,18 +41,20 @@ class LoginItemCheck : public RealSession {
 
 } // namespace
 
-TEST_F(LoginItemCheck, SwitchedOnIsListedStartsNowAndAtLogin) {
+TEST_F(LoginItemCheck, SwitchedOnIsListedAndStartsNowAndAtLogin) {
     EXPECT_FALSE(sorterIsAJob());
 
     services.loginItemSetEnabled(embedded, true);
 
     EXPECT_TRUE(sorterIsAJob());
     EXPECT_TRUE(eventually([] { return sorterRuns(); }));
-    EXPECT_EQ(std::system(("desktop-file-validate '" + entry.string() + "'").c_str()), 0);
+    EXPECT_EQ(std::system(("desktop-file-validate '" + entry.string() + "'").c_str()), 0)
+        << "the entry should be valid:\n"
+        << textOf(entry);
     EXPECT_NE(textOf(entry).find(EMBEDDED_SORTER_EXECUTABLE), std::string::npos) << textOf(entry);
 }
 
-TEST_F(LoginItemCheck, SwitchedOffIsNeither) {
+TEST_F(LoginItemCheck, SwitchedOffIsNeitherListedNorRunning) {
     services.loginItemSetEnabled(embedded, true);
     ASSERT_TRUE(eventually([] { return sorterRuns(); }));
 
@@ -111,7 +113,7 @@ TEST_F(LoginItemCheck, ChangesNothingWhenItsJobCannotBeRecorded) {
     EXPECT_FALSE(sorterRuns());
 }
 
-TEST_F(LoginItemCheck, IsNothingWithoutAnEmbeddedApplication) {
+TEST_F(LoginItemCheck, IsNotMadeWithoutAnEmbeddedApplication) {
     services.loginItemSetEnabled({"org.example.NotThere"}, true);
 
     EXPECT_FALSE(fs::exists(autostart));
@@ -137,7 +139,8 @@ TEST_F(LoginItemCheck, RegistersAnApplicationThatIsThere) {
     const auto application = makeApplication("Quarry", "org.example.Quarry").parent_path();
     fs::create_directories(folder / "Nameless.app");
 
-    EXPECT_EQ(launchServices.registerURL(platform::URL::fileURLWithPath(application), update), 0);
+    EXPECT_EQ(launchServices.registerURL(platform::URL::fileURLWithPath(application), update), 0)
+        << "an application should be registered with status 0";
     EXPECT_NE(launchServices.registerURL(platform::URL::fileURLWithPath(folder / "Nowhere.app"), update), 0);
     EXPECT_NE(launchServices.registerURL(platform::URL::fileURLWithPath(folder / "Nameless.app"), update), 0);
 }

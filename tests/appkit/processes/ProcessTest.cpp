@@ -24,7 +24,7 @@ TEST(Process, IsAliveUntilItEnds) {
     EXPECT_EQ(executableOf(child.pid()), std::filesystem::read_symlink("/proc/self/exe"));
 }
 
-TEST(Process, IsGoneWhenItWasKilledAlthoughItsParentTookNoNotice) {
+TEST(Process, IsGoneOnceItIsKilledThoughItsParentHasNotReapedIt) {
     Child child;
     const auto process = processOfNumber(child.pid());
     ASSERT_TRUE(process);
@@ -39,7 +39,7 @@ TEST(Process, IsGoneWhenItWasKilledAlthoughItsParentTookNoNotice) {
     EXPECT_FALSE(askToQuit(*process));
 }
 
-TEST(Process, QuitsWhenItIsAsked) {
+TEST(Process, QuitsWhenItIsAskedTo) {
     const Child child;
     const auto process = processOfNumber(child.pid());
     ASSERT_TRUE(process);
@@ -50,7 +50,7 @@ TEST(Process, QuitsWhenItIsAsked) {
     EXPECT_FALSE(isAlive(*process));
 }
 
-TEST(Process, IsNotAnotherThatHasItsNumber) {
+TEST(Process, IsNotALaterProcessOfTheSameNumber) {
     const Child child;
     auto earlier = processOfNumber(child.pid());
     ASSERT_TRUE(earlier);
@@ -70,7 +70,7 @@ TEST(Process, MayHaveAnyName) {
     EXPECT_EQ(processOfNumber(getpid()), process);
 }
 
-TEST(Process, IsNoneOfTheSystemsOrOfNoNumber) {
+TEST(Process, IsNotFoundForTheSystemsNumberOrAnInvalidOne) {
     EXPECT_FALSE(processOfNumber(0));
     EXPECT_FALSE(processOfNumber(-1));
     EXPECT_FALSE(processOfNumber(1));

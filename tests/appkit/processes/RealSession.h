@@ -8,9 +8,9 @@
 #include <sys/types.h>
 #include <vector>
 
-/// True as soon as the condition holds; false when it does not within ten seconds. The run loop runs
+/// Success as soon as the condition holds; failure when it does not within ten seconds. The run loop runs
 /// meanwhile.
-[[nodiscard]] bool eventually(const std::function<bool()>& condition);
+[[nodiscard]] testing::AssertionResult eventually(const std::function<bool()>& condition);
 
 /// The text of the file; empty when there is none.
 [[nodiscard]] std::string textOf(const std::filesystem::path& file);
@@ -22,11 +22,11 @@ protected:
     ~RealSession() override;
 
     /// Makes the bundle <name>.app of that identifier, with an executable that does nothing for a minute.
-    /// Answers the executable's path.
+    /// Returns the executable's path.
     [[nodiscard]] std::filesystem::path makeApplication(const std::string& name,
                                                         const std::string& identifier) const;
 
-    /// Executes the file; answers the process. The test is its parent, and takes no notice of its end.
+    /// Executes the file; returns the number of the process. The test is its parent, and does not reap it.
     pid_t execute(const std::filesystem::path& file, std::vector<std::string> arguments = {});
 
     /// Executes a file that makeApplication() made, or a copy of it.

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The applications that the test started, also when they have not become ones yet and execute this program.
+/// The applications that the test started, and the children that still have to execute one.
 std::vector<processes::Process> othersOfSession() {
     auto others = processes::processesOfUser(
         [](const fs::path& executable) { return executable.parent_path().extension() == ".app"; });
@@ -47,19 +47,20 @@ void removeSettings() {
 
 } // namespace
 
-bool eventually(const std::function<bool()>& condition) {
-    NSDate* limit = [NSDate dateWithTimeIntervalSinceNow:10];
+testing::AssertionResult eventually(const std::function<bool()>& condition) {
+    constexpr NSTimeInterval longest = 10;
+    NSDate* limit = [NSDate dateWithTimeIntervalSinceNow:longest];
     while (!condition()) {
+        if ([limit timeIntervalSinceNow] < 0)
+            return testing::AssertionFailure() << "did not come true within " << longest << " s";
         NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
         NSDate* shortly = [NSDate dateWithTimeIntervalSinceNow:0.02];
         // A run loop without any source returns at once.
         if (![[NSRunLoop currentRunLoop] runMode:NSDefaultRunLoopMode beforeDate:shortly])
             [NSThread sleepUntilDate:shortly];
         [pool release];
-        if ([limit timeIntervalSinceNow] < 0)
-            return condition();
     }
-    return true;
+    return testing::AssertionSuccess();
 }
 
 std::string textOf(const fs::path& file) {
@@ -72,7 +73,7 @@ RealSession::RealSession() : folder(inHome("test")) {
 }
 
 RealSession::~RealSession() {
-    EXPECT_TRUE(eventually(killOthers)) << "a process outlived the test";
+    EXPECT_TRUE(eventually(killOthers)) << "a process that the test started has not ended";
     for (const pid_t child : children_) {
         kill(child, SIGKILL);
         waitpid(child, nullptr, 0);
@@ -97,7 +98,8 @@ pid_t RealSession::execute(const fs::path& file, std::vector<std::string> argume
         vector.push_back(argument.data());
     vector.push_back(nullptr);
     pid_t pid = 0;
-    EXPECT_EQ(posix_spawn(&pid, file.c_str(), nullptr, nullptr, vector.data(), environ), 0);
+    EXPECT_EQ(posix_spawn(&pid, file.c_str(), nullptr, nullptr, vector.data(), environ), 0)
+        << file << " could not be executed";
     children_.push_back(pid);
     return pid;
 }

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <fstream>
 
-// What the host's plug-in answers; it is loaded, and reached by name.
+// What the host's plug-in offers; it is loaded, and reached by name.
 @interface NSObject (HostsRegistrar)
 + (id)defaultLoader;
 - (BOOL)applicationIsRegistered:(NSURL*)applicationURL;
@@ -43,29 +43,31 @@ class RegistrarCheck : public RealSession {
 
 } // namespace
 
-TEST_F(RegistrarCheck, IsTheOneOfTheProcess) {
+TEST_F(RegistrarCheck, IsTheSameObjectEachTimeItIsAskedFor) {
     EXPECT_NE(registrar, nil);
     EXPECT_EQ(registrar, loadedRegistrar());
 }
 
-TEST_F(RegistrarCheck, AddsAndRemovesALoginItemThatADesktopHonours) {
+TEST_F(RegistrarCheck, AddsAndRemovesALoginItemThatADesktopAccepts) {
     EXPECT_FALSE(isRegistered());
 
     EXPECT_TRUE([registrar registerApplication:sorter]);
     EXPECT_TRUE(isRegistered());
-    EXPECT_EQ(std::system(("desktop-file-validate '" + entry.string() + "'").c_str()), 0);
+    EXPECT_EQ(std::system(("desktop-file-validate '" + entry.string() + "'").c_str()), 0)
+        << "the entry should be valid:\n"
+        << textOf(entry);
 
     EXPECT_TRUE([registrar unregisterApplication:sorter]);
     EXPECT_FALSE(isRegistered());
     EXPECT_FALSE(fs::exists(entry));
 }
 
-TEST_F(RegistrarCheck, IsContentToRemoveWhatIsNotThere) {
+TEST_F(RegistrarCheck, SucceedsInRemovingALoginItemThatIsNotThere) {
     EXPECT_TRUE([registrar unregisterApplication:sorter]);
     EXPECT_FALSE(fs::exists(entry));
 }
 
-TEST_F(RegistrarCheck, TellsTheUsersOwnChoice) {
+TEST_F(RegistrarCheck, CountsALoginItemThatTheUserSwitchedOffAsNone) {
     ASSERT_TRUE([registrar registerApplication:sorter]);
 
     std::ofstream(entry, std::ios::app) << "Hidden=true\n";
@@ -84,7 +86,7 @@ TEST_F(RegistrarCheck, DoesNotTakeACopyElsewhereForTheApplication) {
     EXPECT_TRUE([registrar applicationIsRegistered:url(copy)]);
 }
 
-TEST_F(RegistrarCheck, LeavesWhatItNeedNotChangeAsItIs) {
+TEST_F(RegistrarCheck, LeavesAnEntryAsItIsWhenNothingHasToChange) {
     ASSERT_TRUE([registrar registerApplication:sorter]);
     std::ofstream(entry, std::ios::app) << "Comment=mine\n";
     EXPECT_TRUE([registrar registerApplication:sorter]);
@@ -95,7 +97,7 @@ TEST_F(RegistrarCheck, LeavesWhatItNeedNotChangeAsItIs) {
     EXPECT_TRUE(fs::exists(entry));
 }
 
-TEST_F(RegistrarCheck, AddsNothingThatIsNoApplication) {
+TEST_F(RegistrarCheck, AddsOnlyApplications) {
     NSURL* const nowhere = url(folder / "Nowhere.app");
 
     EXPECT_FALSE([registrar registerApplication:nowhere]);
@@ -104,13 +106,13 @@ TEST_F(RegistrarCheck, AddsNothingThatIsNoApplication) {
     EXPECT_FALSE(fs::exists(entry.parent_path()));
 }
 
-TEST_F(RegistrarCheck, AnswersNoWithoutAUrl) {
+TEST_F(RegistrarCheck, ReturnsNoWithoutAUrl) {
     EXPECT_FALSE([registrar registerApplication:nil]);
     EXPECT_FALSE([registrar applicationIsRegistered:nil]);
     EXPECT_FALSE([registrar unregisterApplication:nil]);
 }
 
-TEST_F(RegistrarCheck, RefusesWhenItIsToldTo) {
+TEST_F(RegistrarCheck, RefusesWhenTheEnvironmentSaysSo) {
     ASSERT_TRUE([registrar registerApplication:sorter]);
 
     setenv("QUARRYBOOK_REGISTRAR_REFUSES", "1", 1);
@@ -135,7 +137,8 @@ TEST_F(RegistrarCheck, StartsAndStopsTheSorterOfTheHostsEdition) {
     [registrar showSorterApplication];
     EXPECT_TRUE(eventually(soloRuns));
     [registrar showSorterApplication];
-    EXPECT_EQ(processes::runningApplications("com.quarrybook.SoloSorter").size(), 1U);
+    EXPECT_EQ(processes::runningApplications("com.quarrybook.SoloSorter").size(), 1U)
+        << "a Sorter that runs should not be started again";
 
     [registrar closeSorterApplication];
     EXPECT_TRUE(eventually([&] { return !soloRuns(); }));

@@ -25,7 +25,7 @@ class RunningApplicationsCheck : public RealSession {
 
 } // namespace
 
-TEST_F(RunningApplicationsCheck, KnowsAnApplicationWhoeverStartedIt) {
+TEST_F(RunningApplicationsCheck, FindsAnApplicationThatSomeoneElseStarted) {
     EXPECT_FALSE(runs());
 
     executeIdle(executable);
@@ -62,7 +62,7 @@ TEST_F(RunningApplicationsCheck, CountsOneWhoseFilesWereReplacedWhileItRuns) {
     EXPECT_TRUE(runs());
 }
 
-TEST_F(RunningApplicationsCheck, DoesNotCountAProcessThatMerelyBearsTheName) {
+TEST_F(RunningApplicationsCheck, DoesNotCountAProcessThatOnlyHasTheName) {
     fs::copy_file(executable, folder / "Quarry");
     executeIdle(folder / "Quarry");
     const auto other = makeApplication("Other", "org.example.Other");

@@ -35,8 +35,11 @@ class SorterCheck : public RealSession {
   protected:
     [[nodiscard]] std::string log() const { return textOf(logFile); }
 
-    [[nodiscard]] bool tells(const std::string& line) const {
-        return eventually([&] { return log().find(line + "\n") != std::string::npos; });
+    /// Waits until that line is in the log.
+    [[nodiscard]] testing::AssertionResult logs(const std::string& line) const {
+        if (eventually([&] { return log().find(line + "\n") != std::string::npos; }))
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << "the line \"" << line << "\" is not in the log:\n" << log();
     }
 
     const fs::path logFile = fs::path(std::getenv("XDG_STATE_HOME")) / "quarrybook" / "sorter.log";
@@ -44,19 +47,19 @@ class SorterCheck : public RealSession {
 
 } // namespace
 
-TEST_F(SorterCheck, TellsWhoItIsAndQuitsInPeace) {
+TEST_F(SorterCheck, LogsItsIdentifierAndQuitsWithSuccess) {
     NSString* executable = [NSString stringWithUTF8String:sorterExecutable.c_str()];
     NSTask* sorter = [NSTask launchedTaskWithLaunchPath:executable arguments:[NSArray array]];
-    ASSERT_TRUE(tells("started com.quarrybook.Sorter"));
+    ASSERT_TRUE(logs("started com.quarrybook.Sorter"));
 
     kill([sorter processIdentifier], SIGTERM);
 
     ASSERT_TRUE(eventually([&] { return ![sorter isRunning]; }));
-    EXPECT_EQ([sorter terminationStatus], 0);
-    EXPECT_TRUE(log().ends_with("\nquitting\n"));
+    EXPECT_EQ([sorter terminationStatus], 0) << "a request to quit should end it with success";
+    EXPECT_TRUE(log().ends_with("\nquitting\n")) << log();
 }
 
-TEST_F(SorterCheck, QuitsWhenItIsAskedWhileItStarts) {
+TEST_F(SorterCheck, QuitsWhenItIsAskedToWhileItStarts) {
     const pid_t sorter = execute(sorterExecutable);
     ASSERT_TRUE(eventually([&] {
         return textOf(processes::folderOf(sorter) / "maps").find("libgnustep-cairo") != std::string::npos;
@@ -67,9 +70,9 @@ TEST_F(SorterCheck, QuitsWhenItIsAskedWhileItStarts) {
     EXPECT_TRUE(eventually([&] { return !processes::processOfNumber(sorter); }));
 }
 
-TEST_F(SorterCheck, TellsWhatItTookUpWithEachNotice) {
+TEST_F(SorterCheck, LogsWhatItReadAfterEachNotice) {
     execute(sorterExecutable);
-    ASSERT_TRUE(tells("started com.quarrybook.Sorter"));
+    ASSERT_TRUE(logs("started com.quarrybook.Sorter"));
 
     store([NSNumber numberWithInt:8], @"Sorter.ClipHotKeyCode", @"Quarrybook");
     store([NSNumber numberWithBool:YES], @"SorterTabIsInvisible", @"Quarrybook");
@@ -82,15 +85,12 @@ TEST_F(SorterCheck, TellsWhatItTookUpWithEachNotice) {
 
     const std::string hotKeys = "Sorter.ClipHotKeyCode=8 Sorter.ClipHotKeyModifiers=none "
                                 "Sorter.NoteHotKeyCode=none Sorter.NoteHotKeyModifiers=none";
-    EXPECT_TRUE(tells("QBSSorterShortcutKeysChanged object=\"Quarrybook\" userInfo=none " + hotKeys))
-        << log();
-    EXPECT_TRUE(tells("QBSSorterPreferencesUpdated object=\"Quarrybook\" userInfo={\"visibility\"=NO} "
-                      "SorterTabIsInvisible=YES " +
-                      hotKeys))
-        << log();
-    EXPECT_TRUE(tells("QBSSorterHideAppUpdated object=\"Quarrybook\" userInfo=none "
-                      "UserSpecifiedFullScreenApplications={\"Mail\"=YES}"))
-        << log();
+    EXPECT_TRUE(logs("QBSSorterShortcutKeysChanged object=\"Quarrybook\" userInfo=none " + hotKeys));
+    EXPECT_TRUE(logs("QBSSorterPreferencesUpdated object=\"Quarrybook\" userInfo={\"visibility\"=NO} "
+                     "SorterTabIsInvisible=YES " +
+                     hotKeys));
+    EXPECT_TRUE(logs("QBSSorterHideAppUpdated object=\"Quarrybook\" userInfo=none "
+                     "UserSpecifiedFullScreenApplications={\"Mail\"=YES}"));
 }
 
 TEST_F(SorterCheck, ReadsTheSharedHotKeyWhereItIsEmbedded) {
@@ -102,26 +102,25 @@ TEST_F(SorterCheck, ReadsTheSharedHotKeyWhereItIsEmbedded) {
     [hotKey writeToFile:[NSString stringWithUTF8String:(shared / "clipHotKey.dictionary").c_str()]
              atomically:YES];
     execute(EMBEDDED_SORTER_EXECUTABLE);
-    ASSERT_TRUE(tells("started Z3K8WQ4N7P.quarry2.QuarrybookSorter"));
+    ASSERT_TRUE(logs("started Z3K8WQ4N7P.quarry2.QuarrybookSorter"));
 
     post(@"QBSSorterShortcutKeysChanged", nil);
 
-    EXPECT_TRUE(tells("QBSSorterShortcutKeysChanged object=\"Quarrybook\" userInfo=none "
-                      "Sorter.ClipHotKeyCode=none Sorter.ClipHotKeyModifiers=none Sorter.NoteHotKeyCode=none "
-                      "Sorter.NoteHotKeyModifiers=none clipHotKey.dictionary={\"Sorter.ClipHotKeyCode\"=49}"))
-        << log();
+    EXPECT_TRUE(logs("QBSSorterShortcutKeysChanged object=\"Quarrybook\" userInfo=none "
+                     "Sorter.ClipHotKeyCode=none Sorter.ClipHotKeyModifiers=none Sorter.NoteHotKeyCode=none "
+                     "Sorter.NoteHotKeyModifiers=none clipHotKey.dictionary={\"Sorter.ClipHotKeyCode\"=49}"));
 }
 
-TEST_F(SorterCheck, ListensOnWhenTheNotificationDaemonIsStartedAnew) {
+TEST_F(SorterCheck, ReceivesNoticesAgainAfterTheNotificationDaemonDied) {
     execute(sorterExecutable);
-    ASSERT_TRUE(tells("started com.quarrybook.Sorter"));
+    ASSERT_TRUE(logs("started com.quarrybook.Sorter"));
 
     for (const auto& daemon : processes::processesOfUser(
              [](const fs::path& executable) { return executable.filename() == "gdnc"; }))
         if (sharesSession(daemon))
             killAndAwait(daemon.pid);
 
-    ASSERT_TRUE(tells("listening again"));
+    ASSERT_TRUE(logs("listening again"));
     EXPECT_TRUE(eventually([&] {
         // The first post after the daemon's end fails.
         std::ignore = objc::tryObjC([] { post(@"QBSSorterHideAppUpdated", nil); });
@@ -129,19 +128,19 @@ TEST_F(SorterCheck, ListensOnWhenTheNotificationDaemonIsStartedAnew) {
     }));
 }
 
-TEST_F(SorterCheck, IgnoresTheRequestToQuitWhenItIsToHang) {
+TEST_F(SorterCheck, IgnoresARequestToQuitWhileItIsSetToHang) {
     setenv("QUARRYBOOK_SORTER_HANGS", "1", 1);
     const pid_t pid = execute(sorterExecutable);
     unsetenv("QUARRYBOOK_SORTER_HANGS");
-    ASSERT_TRUE(tells("started com.quarrybook.Sorter"));
+    ASSERT_TRUE(logs("started com.quarrybook.Sorter"));
 
     kill(pid, SIGTERM);
 
-    EXPECT_TRUE(tells("asked to quit, and hangs"));
+    EXPECT_TRUE(logs("asked to quit, and hangs"));
     EXPECT_TRUE(processes::processOfNumber(pid));
 }
 
-TEST_F(SorterCheck, WritesItsLogWhereItIsTold) {
+TEST_F(SorterCheck, WritesItsLogWhereTheEnvironmentSays) {
     const auto file = folder / "deep" / "sorter.log";
     setenv("QUARRYBOOK_SORTER_LOG", file.c_str(), 1);
     execute(sorterExecutable);
@@ -151,14 +150,14 @@ TEST_F(SorterCheck, WritesItsLogWhereItIsTold) {
     EXPECT_FALSE(fs::exists(logFile));
 }
 
-TEST_F(SorterCheck, CarriesAFactoryListOfSomeHiddenAndSomeNot) {
+TEST_F(SorterCheck, ComesWithAFactoryListOfSomeHiddenAndSomeShown) {
     for (const char* bundle : {SORTER_BUNDLE, SOLO_SORTER_BUNDLE, EMBEDDED_SORTER_BUNDLE}) {
         NSString* path = [[NSString stringWithUTF8String:bundle]
             stringByAppendingPathComponent:@"Contents/Resources/FactoryDefaults.plist"];
         NSDictionary* list = [[NSDictionary dictionaryWithContentsOfFile:path]
             objectForKey:@"UserSpecifiedFullScreenApplications"];
 
-        EXPECT_GE([list count], 3U) << bundle;
+        EXPECT_GE([list count], 3U) << "a handful of applications should be in the list of " << bundle;
         EXPECT_TRUE([[list allValues] containsObject:[NSNumber numberWithBool:YES]]) << bundle;
         EXPECT_TRUE([[list allValues] containsObject:[NSNumber numberWithBool:NO]]) << bundle;
     }

@@ -67,7 +67,7 @@ class StoreCheck : public RealSession {
 
 } // namespace
 
-TEST_F(StoreCheck, AFlushOfOneDomainCarriesTheOthers) {
+TEST_F(StoreCheck, AFlushOfOneDomainWritesTheOthersToo) {
     preferences->setAppValue(key, "a text", full);
 
     EXPECT_TRUE(flush(solo));
@@ -75,7 +75,7 @@ TEST_F(StoreCheck, AFlushOfOneDomainCarriesTheOthers) {
     EXPECT_EQ(inFile(full), Value("a text"));
 }
 
-TEST_F(StoreCheck, WhatStillWaitsIsWrittenAtTheEnd) {
+TEST_F(StoreCheck, WhatWasNotFlushedIsWrittenAtTheEnd) {
     preferences->setAppValue(key, "a text", full);
     EXPECT_FALSE(inFile(full).exists());
 
@@ -84,7 +84,7 @@ TEST_F(StoreCheck, WhatStillWaitsIsWrittenAtTheEnd) {
     EXPECT_EQ(inFile(full), Value("a text"));
 }
 
-TEST_F(StoreCheck, NobodyElseCanReadADomain) {
+TEST_F(StoreCheck, OnlyTheUserCanReadADomain) {
     preferences->setAppValue(key, "a text", full);
     EXPECT_TRUE(flush(full));
 
@@ -112,7 +112,8 @@ TEST_F(StoreCheck, AFlushWithoutAFolderFailsAtOnceAndLosesNothing) {
         EXPECT_FALSE(flush(full));
         EXPECT_FALSE(userDefaults.synchronize());
 
-        EXPECT_LT(steady_clock::now() - begin, std::chrono::seconds(5));
+        EXPECT_LT(steady_clock::now() - begin, std::chrono::seconds(5))
+            << "a flush should not wait for the folder";
         EXPECT_EQ(preferences->copyAppValue(key, full), Value("a text"));
         EXPECT_EQ(userDefaults.objectForKey({"Key"}), Value("a text"));
     }

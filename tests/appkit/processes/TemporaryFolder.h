@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-/// A folder that a test has to itself, and that goes with it.
+/// A folder of a test's own, removed after the test.
 class TemporaryFolder {
 public:
     TemporaryFolder() {

@@ -69,10 +69,10 @@ class WorkspaceCheck : public RealSession {
     /// Kills the other application; returns once the observer was told.
     void endAnother(const std::string& name, const Observer& told) {
         killAndAwait(others_[name]);
-        EXPECT_TRUE(eventually([&] { return told.reportsOf("org.example." + name) == 1; }));
+        EXPECT_TRUE(eventually([&] { return notified.reportsOf("org.example." + name) == 1; }));
     }
 
-    /// Posts a notice of an end that tells the identifier, and nothing else.
+    /// Posts a notice of an application's end that holds only the identifier.
     static void postNoticeOf(const std::string& identifier) {
         NSString* text = [NSString stringWithUTF8String:identifier.c_str()];
         [[[NSWorkspace sharedWorkspace] notificationCenter]
@@ -128,7 +128,7 @@ TEST_F(WorkspaceCheck, LaunchesAnApplicationAndAsksItToQuit) {
     EXPECT_TRUE(sorterLog().ends_with("quitting\n"));
 }
 
-TEST_F(WorkspaceCheck, TakesTheApplicationThatRunsAlready) {
+TEST_F(WorkspaceCheck, ReturnsTheApplicationThatRunsAlready) {
     const auto first = launchSorter();
     ASSERT_NE(first, nullptr);
     ASSERT_TRUE(eventually([] { return !sorterLog().empty(); }));
@@ -156,7 +156,7 @@ TEST_F(WorkspaceCheck, SaysWhatIsMissingWhenItCannotLaunch) {
     EXPECT_EQ(hollow.error, "The application at " + bundle.string() + " has no executable.");
 }
 
-TEST_F(WorkspaceCheck, AnswersNoWhenTheApplicationToQuitHasGone) {
+TEST_F(WorkspaceCheck, ReturnsFalseWhenTheApplicationToQuitHasEnded) {
     const auto sorter = launchSorter();
     ASSERT_NE(sorter, nullptr);
     ASSERT_TRUE(eventually([] { return !sorterLog().empty(); }));
@@ -180,7 +180,7 @@ TEST_F(WorkspaceCheck, DoesNotWaitForAnApplicationThatHangs) {
     EXPECT_TRUE(sorterRuns());
 }
 
-TEST_F(WorkspaceCheck, ReportsAnApplicationThatQuitOnceAfterItHasGone) {
+TEST_F(WorkspaceCheck, ReportsAnApplicationThatQuitOnceAndAfterItsEnd) {
     startAnother("Mail");
     bool ranWhenReported = false;
     observer->then = [&] { ranWhenReported = ranWhenReported || sorterRuns(); };
@@ -194,7 +194,7 @@ TEST_F(WorkspaceCheck, ReportsAnApplicationThatQuitOnceAfterItHasGone) {
     EXPECT_TRUE(eventually([&] { return observer->reportsOf(sorterIdentifier) > 0; }));
     EXPECT_FALSE(ranWhenReported);
     endAnother("Mail", *observer);
-    EXPECT_EQ(observer->reportsOf(sorterIdentifier), 1);
+    EXPECT_EQ(observer->reportsOf(sorterIdentifier), 1) << "its end should have been reported once";
 }
 
 TEST_F(WorkspaceCheck, ReportsAKilledApplicationOnce) {
@@ -207,7 +207,7 @@ TEST_F(WorkspaceCheck, ReportsAKilledApplicationOnce) {
 
     EXPECT_TRUE(eventually([&] { return observer->reportsOf(sorterIdentifier) > 0; }));
     endAnother("Mail", *observer);
-    EXPECT_EQ(observer->reportsOf(sorterIdentifier), 1);
+    EXPECT_EQ(observer->reportsOf(sorterIdentifier), 1) << "its end should have been reported once";
 }
 
 TEST_F(WorkspaceCheck, ReportsTheEndOfAnApplicationThatLaunchedDuringTheObservation) {
@@ -291,7 +291,7 @@ TEST_F(WorkspaceCheck, ReportsNothingToAnObserverThatWasRemoved) {
     workspace.removeObserver(*observer);
 }
 
-TEST_F(WorkspaceCheck, LetsAnObserverRemoveItselfWhileItIsTold) {
+TEST_F(WorkspaceCheck, LetsAnObserverRemoveItselfWhileItIsNotified) {
     startAnother("Mail");
     startAnother("Clock");
     const auto other = std::make_shared<Observer>();
@@ -302,7 +302,8 @@ TEST_F(WorkspaceCheck, LetsAnObserverRemoveItselfWhileItIsTold) {
     endAnother("Mail", *other);
     endAnother("Clock", *other);
 
-    EXPECT_EQ(observer->reported.size(), 1U);
+    EXPECT_EQ(observer->reported, std::vector<std::string>{"org.example.Mail"})
+        << "only the end before it removed itself should have been reported";
 }
 
 TEST_F(WorkspaceCheck, DoesNotKeepItsObserverAlive) {
@@ -336,7 +337,8 @@ TEST_F(WorkspaceCheck, ReportsAnEndOnceThoughItsNoticeNamesTheApplication) {
     endAnother("Mail", *observer);
 
     endAnother("Clock", *observer);
-    EXPECT_EQ(observer->reportsOf("org.example.Mail"), 1);
+    EXPECT_EQ(observer->reportsOf("org.example.Mail"), 1)
+        << "the notice and the end should have been reported as one";
 }
 
 } // namespace qbsp::appkit

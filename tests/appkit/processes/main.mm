@@ -7,7 +7,7 @@ int main(int argc, char** argv) {
     // The shared defaults must exist before any other instance.
     [NSUserDefaults standardUserDefaults];
     testing::InitGoogleTest(&argc, argv);
-    // A handler of C++ exceptions in the way of an Objective-C one would end the process.
+    // A C++ handler that an Objective-C exception passes would end the process.
     GTEST_FLAG_SET(catch_exceptions, false);
     const int failed = RUN_ALL_TESTS();
     [pool release];

@@ -38,7 +38,7 @@ TEST(EventModifiers, LearnFromTheKeyThatSwitchedABitOn) {
     EXPECT_EQ(held.held(commandBit), modifiers::command);
 }
 
-TEST(EventModifiers, LearnAnewWhenAnotherKeySwitchesTheSameBitOn) {
+TEST(EventModifiers, LearnAgainWhenAnotherKeySwitchesTheSameBitOn) {
     EventModifiers held;
     held.flagsChanged(modifiers::command, commandBit);
     held.flagsChanged(modifiers::command, 0);
@@ -56,7 +56,7 @@ TEST(EventModifiers, LearnNothingWhenSeveralBitsAppearAtOnce) {
     EXPECT_EQ(held.held(commandBit), modifiers::option);
 }
 
-TEST(EventModifiers, LearnNothingFromAReleaseNorFromAKeyThatIsNoneOfTheFour) {
+TEST(EventModifiers, LearnNothingFromAReleaseOrFromAKeyThatIsNoModifier) {
     EventModifiers held;
     held.flagsChanged(modifiers::control, controlBit);
 

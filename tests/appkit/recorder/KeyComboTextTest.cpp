@@ -54,12 +54,12 @@ TEST(KeyComboText, NamesKeysThatPrintNothing) {
     EXPECT_EQ(comboInWords({.flags = modifiers::option, .code = 116}, noLabel), "Option Page Up");
 }
 
-TEST(KeyComboText, TellsTheKeypadFromTheRowOfDigits) {
+TEST(KeyComboText, DistinguishesTheKeypadFromTheRowOfDigits) {
     EXPECT_EQ(comboInSymbols({.flags = modifiers::command, .code = 87}, noLabel), "⌘Keypad 5");
     EXPECT_EQ(comboInSymbols({.flags = modifiers::command, .code = 23}, noLabel), "⌘5");
 }
 
-TEST(KeyComboText, ShowsTheNumberOfAKeyThatNobodyKnows) {
+TEST(KeyComboText, ShowsTheNumberOfAnUnknownKey) {
     EXPECT_EQ(comboInSymbols({.flags = modifiers::command, .code = 500}, noLabel), "⌘Key 500");
 }
 

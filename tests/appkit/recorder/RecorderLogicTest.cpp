@@ -41,7 +41,7 @@ TEST_F(Recorder, SpaceArmsIt) {
     EXPECT_TRUE(logic.isArmed());
 }
 
-TEST_F(Recorder, LeavesOtherKeysAloneWhileItIsIdle) {
+TEST_F(Recorder, LeavesOtherKeysToOthersWhileItIsIdle) {
     EXPECT_EQ(press(controlC), KeyAnswer::notOurs);
     EXPECT_EQ(press(keyF5), KeyAnswer::notOurs);
     EXPECT_EQ(press(keys::escape), KeyAnswer::notOurs);
@@ -70,7 +70,7 @@ TEST_F(ArmedRecorder, OffersAFunctionKeyWithShift) {
     EXPECT_EQ(logic.combo(), (KeyCombo{.flags = modifiers::shift, .code = keyF5}));
 }
 
-TEST_F(ArmedRecorder, RefusesATakenCombinationKeepsTheOldOneAndGoesOnListening) {
+TEST_F(ArmedRecorder, RefusesATakenCombinationKeepsTheOldOneAndStillListens) {
     listener.takenCombo = controlC;
 
     EXPECT_EQ(press(controlC), KeyAnswer::done);
@@ -99,7 +99,7 @@ TEST_F(ArmedRecorder, ShowsTheReasonAgainWhenTheNextKeyIsRefusedToo) {
     EXPECT_EQ(listener.shownRefusal, Refusal::plainKey);
 }
 
-TEST_F(ArmedRecorder, ReportsAnAcceptedCombinationOnceAndListensNoMore) {
+TEST_F(ArmedRecorder, ReportsAnAcceptedCombinationOnceAndStopsListening) {
     EXPECT_EQ(press(controlC), KeyAnswer::done);
 
     EXPECT_EQ(listener.reported, std::vector{controlC});
@@ -114,7 +114,7 @@ TEST_F(ArmedRecorder, DoesNotReportTheCombinationItAlreadyHolds) {
     EXPECT_FALSE(logic.isArmed());
 }
 
-TEST_F(ArmedRecorder, CancelsAtEscAndNeverErases) {
+TEST_F(ArmedRecorder, CancelsAtEscAndKeepsTheCombination) {
     EXPECT_EQ(press(keys::escape), KeyAnswer::done);
 
     EXPECT_FALSE(logic.isArmed());
@@ -145,7 +145,7 @@ TEST_F(ArmedRecorder, RecordsDeleteWithAModifier) {
     EXPECT_EQ(logic.combo(), (KeyCombo{.flags = modifiers::command, .code = keys::backspace}));
 }
 
-TEST_F(Recorder, ClearsAtDeleteAlsoWhileItIsIdle) {
+TEST_F(Recorder, AlsoClearsAtDeleteWhileItIsIdle) {
     logic.setCombo(commandA);
 
     press(keys::forwardDelete);
@@ -153,7 +153,7 @@ TEST_F(Recorder, ClearsAtDeleteAlsoWhileItIsIdle) {
     EXPECT_EQ(listener.reported, std::vector{empty});
 }
 
-TEST_F(Recorder, DoesNotReportThatAnEmptyOneWasCleared) {
+TEST_F(Recorder, DoesNotReportThatAnEmptyRecorderWasCleared) {
     logic.arm();
 
     logic.clear();
@@ -227,7 +227,7 @@ TEST_F(Recorder, TreatsKeyCodeZeroLikeAnyOther) {
     EXPECT_EQ(listener.reported, std::vector{commandA});
 }
 
-TEST_F(Recorder, TellsCodeZeroWithoutFlagsFromTheEmptyCombination) {
+TEST_F(Recorder, DistinguishesCodeZeroWithoutFlagsFromTheEmptyCombination) {
     logic.setCombo({.flags = 0, .code = 0});
 
     logic.clear();
@@ -258,7 +258,7 @@ TEST_F(ArmedRecorder, DropsCapsLockAndOtherBitsOfTheEvent) {
     EXPECT_EQ(logic.combo(), controlC);
 }
 
-TEST_F(Recorder, DropsOtherBitsAndTheFlagsOfNoKeyAlsoFromTheProgramsCombination) {
+TEST_F(Recorder, AlsoDropsOtherBitsAndTheFlagsOfNoKeyFromTheProgramsCombination) {
     logic.setCombo({.flags = modifiers::control | 0x10000, .code = keyC});
     EXPECT_EQ(logic.combo(), controlC);
 

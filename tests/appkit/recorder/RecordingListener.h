@@ -7,7 +7,7 @@
 
 namespace qbsp::recorder {
 
-/// A listener that remembers what it was asked and told.
+/// A listener that remembers each call.
 struct RecordingListener : RecorderListener {
     std::vector<KeyCombo> offered;
     std::vector<KeyCombo> reported;

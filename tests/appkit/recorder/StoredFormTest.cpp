@@ -41,12 +41,12 @@ void forEachCombo(Check check) {
             check(KeyCombo{.flags = set << 17, .code = key});
 }
 
-/// True for what means something else to a recorder, or nothing: typing, moving on, cancelling and clearing.
+/// True for combinations that a recorder does not record: they type, move on, cancel or clear.
 bool isNoHotKey(const KeyCombo& combo) {
     return (combo.flags & ~modifiers::shift) == 0 && !isFunctionKey(combo.code);
 }
 
-/// What a fresh recorder holds after that combination was pressed.
+/// What a new recorder holds after that combination was pressed.
 KeyCombo recorded(const KeyCombo& combo) {
     RecordingListener listener;
     RecorderLogic logic(listener);

@@ -24,7 +24,7 @@ TEST(X11KeyCodes, TranslateIntoTheMacsAndBackAgain) {
         EXPECT_EQ(x11KeyOfVirtual(key), x11);
         EXPECT_TRUE(seen.insert(key).second) << "two keys have the Mac's code " << key;
     }
-    EXPECT_EQ(seen.size(), 107U);
+    EXPECT_EQ(seen.size(), 107U) << "each of the 107 keys of the table should have its own code";
 }
 
 TEST(X11KeyCodes, TranslateFromTheMacsAndBackAgain) {
@@ -55,7 +55,7 @@ TEST(X11KeyCodes, GoByTheKeysPlaces) {
 TEST(X11KeyCodes, LeaveOutModifiersAndKeysThatTheMacDoesNotHave) {
     for (const X11KeyCode x11 : {0U, 37U, 50U, 64U, 66U, 107U, 133U, 172U})
         EXPECT_EQ(virtualKeyOfX11(x11), noKey) << x11;
-    EXPECT_EQ(x11KeyOfVirtual(noKey), 0U);
+    EXPECT_EQ(x11KeyOfVirtual(noKey), 0U) << "no key";
     EXPECT_EQ(x11KeyOfVirtual(55), 0U) << "Command";
 }
 

@@ -7,7 +7,7 @@
 
 namespace qbsp::contracts {
 
-/// What the host's registrar was told, and whether it does what it is told.
+/// The messages that the host's registrar received, and whether it refuses to change anything.
 struct RegistrarState {
     bool refuses = false;
     bool isRegistered = false;

@@ -13,12 +13,12 @@ RegistrarState& registrarState() {
 
 using qbsp::contracts::registrarState;
 
-static void tell(SEL message) {
+static void record(SEL message) {
     registrarState().messages.push_back([NSStringFromSelector(message) UTF8String]);
 }
 
-static void tell(SEL message, NSURL* application) {
-    tell(message);
+static void record(SEL message, NSURL* application) {
+    record(message);
     registrarState().messages.back() +=
         application == nil ? " null" : std::string(" ") + [[application path] UTF8String];
 }
@@ -33,30 +33,30 @@ static BOOL change(bool isRegistered) {
 @implementation ContractRegistrar
 
 - (BOOL)applicationIsRegistered:(NSURL*)applicationURL {
-    tell(_cmd, applicationURL);
+    record(_cmd, applicationURL);
     return registrarState().isRegistered;
 }
 
 - (BOOL)registerApplication:(NSURL*)applicationURL {
-    tell(_cmd, applicationURL);
+    record(_cmd, applicationURL);
     return change(true);
 }
 
 - (BOOL)unregisterApplication:(NSURL*)applicationURL {
-    tell(_cmd, applicationURL);
+    record(_cmd, applicationURL);
     return change(false);
 }
 
 - (void)showAccountsSystemPreferencePane {
-    tell(_cmd);
+    record(_cmd);
 }
 
 - (void)showSorterApplication {
-    tell(_cmd);
+    record(_cmd);
 }
 
 - (void)closeSorterApplication {
-    tell(_cmd);
+    record(_cmd);
 }
 
 @end

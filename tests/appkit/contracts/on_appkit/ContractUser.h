@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-/// A user who answers whatever dialog is open: reads it, chooses a file in it, presses a button of it, once.
+/// A user who responds to each dialog once: reads it, chooses a file in it, presses a button of it.
 @interface ContractUser : NSObject {
   @public
     std::string button;
@@ -17,7 +17,7 @@
     NSWindow* answered;
 }
 
-/// Looks for dialogs from now on, until it is told to leave.
+/// Looks for dialogs from now on, until it leaves.
 - (void)watch;
 - (void)leave;
 

@@ -55,7 +55,7 @@ bool choose(NSWindow* panel, const std::string& name) {
     return false;
 }
 
-// A modal loop does not look at its end until an event comes, and a timer lets one come.
+// A modal loop notices that it should end only at the next event, and a timer brings one.
 void wakeModalLoop(NSWindow* window) {
     [[NSRunLoop currentRunLoop] addTimer:[NSTimer timerWithTimeInterval:0.01
                                                                  target:window
@@ -101,7 +101,7 @@ void wakeModalLoop(NSWindow* window) {
         return;
     texts = textsOf(window);
     defaultButton = text([buttonForReturn(window) title]);
-    // A click lets the run loop run, and so this method.
+    // The run loop runs during a click, and calls this method again.
     answered = window;
     [buttonTitled(window, button) performClick:nil];
     wakeModalLoop(window);

@@ -77,7 +77,7 @@ class AppKitStage final : public ControlsStage {
     }
 
   private:
-    /// Views outside a window have nothing visible.
+    /// Only views in a window have a visible rectangle.
     static NSWindow* makeWindow() {
         NSWindow* window = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, 200, 200)
                                                        styleMask:NSTitledWindowMask

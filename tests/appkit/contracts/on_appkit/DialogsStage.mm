@@ -41,7 +41,7 @@ class AppKitStage final : public DialogsStage {
 
     platform::Seconds runUntil(const std::function<bool()>& condition) override {
         const auto start = std::chrono::steady_clock::now();
-        EXPECT_TRUE(eventually(condition)) << "the condition never held";
+        EXPECT_TRUE(eventually(condition));
         return std::chrono::steady_clock::now() - start;
     }
 

@@ -19,14 +19,15 @@ void runLoopOnce() {
 
 } // namespace
 
-bool eventually(const std::function<bool()>& condition) {
-    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+testing::AssertionResult eventually(const std::function<bool()>& condition) {
+    constexpr int longest = 10;
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(longest);
     while (!condition()) {
         if (std::chrono::steady_clock::now() > limit)
-            return false;
+            return testing::AssertionFailure() << "did not come true within " << longest << " s";
         runLoopOnce();
     }
-    return true;
+    return testing::AssertionSuccess();
 }
 
 } // namespace qbsp::contracts

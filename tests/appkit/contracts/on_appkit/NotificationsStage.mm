@@ -11,19 +11,19 @@
 
 #include <deque>
 
-/// Keeps the notifications that it hears, in their order.
+/// Keeps the notifications that it receives, in their order.
 @interface ContractListener : NSObject {
   @public
-    std::deque<qbsp::contracts::Heard> heard;
+    std::deque<qbsp::contracts::Received> received;
 }
-- (void)hear:(NSNotification*)notification;
+- (void)receive:(NSNotification*)notification;
 @end
 
 @implementation ContractListener
 
-- (void)hear:(NSNotification*)notification {
-    heard.push_back({qbsp::appkit::utf8([notification name]), qbsp::appkit::utf8([notification object]),
-                     qbsp::appkit::dictionaryFromObject([notification userInfo])});
+- (void)receive:(NSNotification*)notification {
+    received.push_back({qbsp::appkit::utf8([notification name]), qbsp::appkit::utf8([notification object]),
+                        qbsp::appkit::dictionaryFromObject([notification userInfo])});
 }
 
 @end
@@ -34,7 +34,7 @@ using platform::Dictionary;
 
 namespace {
 
-/// The dictionary with numbers for Booleans, which do not survive the way.
+/// The dictionary with numbers for its Booleans, as which they arrive.
 Dictionary asItArrives(Dictionary userInfo) {
     for (auto& [key, value] : userInfo)
         if (value.as<bool>() != nullptr)
@@ -42,8 +42,8 @@ Dictionary asItArrives(Dictionary userInfo) {
     return userInfo;
 }
 
-bool isTheSame(const Heard& one, const Heard& other) {
-    // None and an empty one may be the same.
+bool isTheSame(const Received& one, const Received& other) {
+    // A notification without a dictionary may arrive with an empty one.
     return one.name == other.name && one.object == other.object &&
            asItArrives(one.userInfo.value_or(Dictionary())) ==
                asItArrives(other.userInfo.value_or(Dictionary()));
@@ -54,7 +54,7 @@ class AppKitStage final : public NotificationsStage {
     AppKitStage() {
         for (NSString* name : {@"First", @"Second"})
             [[NSDistributedNotificationCenter defaultCenter] addObserver:listener_.get()
-                                                                selector:@selector(hear:)
+                                                                selector:@selector(receive:)
                                                                     name:name
                                                                   object:nil];
     }
@@ -65,12 +65,12 @@ class AppKitStage final : public NotificationsStage {
 
     platform::DistributedNotificationCenter& notifications() override { return notifications_; }
 
-    bool hears(const Heard& expected) override {
-        auto& heard = listener_.get()->heard;
-        if (!eventually([&] { return !heard.empty(); }))
+    bool receivesNext(const Received& expected) override {
+        auto& received = listener_.get()->received;
+        if (!eventually([&] { return !received.empty(); }))
             return false;
-        const Heard first = heard.front();
-        heard.pop_front();
+        const Received first = received.front();
+        received.pop_front();
         return isTheSame(first, expected);
     }
 

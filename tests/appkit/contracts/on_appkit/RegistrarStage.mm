@@ -41,7 +41,7 @@ class AppKitStage final : public RegistrarStage {
 } // namespace
 
 std::unique_ptr<RegistrarStage> RegistrarStage::appKit() {
-    // Referred to, so that the linker keeps the classes that are found by name.
+    // Mentioned so that the linker keeps the classes, which are found by name.
     [ContractLoader class];
     [ContractEmptyLoader class];
     return std::make_unique<AppKitStage>();

@@ -11,7 +11,7 @@ namespace qbsp::contracts {
 
 namespace {
 
-std::string lineOf(const Heard& posted) {
+std::string lineOf(const Received& posted) {
     return "NSDistributedNotificationCenter postNotificationName:object:userInfo:options:(" +
            simulated::jsonText(posted.name) + ", " + simulated::jsonText(posted.object) + ", " +
            (posted.userInfo ? simulated::json(*posted.userInfo) : "null") + ", 1)";
@@ -21,7 +21,7 @@ class SimulatedStage final : public NotificationsStage {
 public:
     platform::DistributedNotificationCenter& notifications() override { return platform_.notifications; }
 
-    bool hears(const Heard& expected) override {
+    bool receivesNext(const Received& expected) override {
         std::ranges::move(platform_.transcript.take(), std::back_inserter(posted_));
         std::erase_if(posted_,
                       [](const std::string& line) { return line.find("Nobody") != std::string::npos; });

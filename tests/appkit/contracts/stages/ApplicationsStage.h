@@ -25,17 +25,17 @@ public:
     [[nodiscard]] virtual platform::LaunchServices& launchServices() = 0;
     [[nodiscard]] virtual platform::ServiceManagement& serviceManagement() = 0;
 
-    /// Where the application lies, and where none does; asked for before each use.
+    /// The path of the application, and a path without one; to be called before each use.
     [[nodiscard]] virtual platform::URL application() = 0;
     [[nodiscard]] virtual platform::URL nothing() = 0;
 
     /// Waits until the application that was launched runs.
     virtual void awaitLaunch() = 0;
 
-    /// Somebody else starts the application.
+    /// Starts the application other than by the workspace.
     virtual void start() = 0;
 
-    /// Every process of the application ends; the observers that still are some are told of it.
+    /// Every process of the application ends; the observers that still exist are notified.
     virtual void end(const std::vector<std::shared_ptr<platform::TerminationObserver>>& observers) = 0;
 
     /// Waits for the condition, which depends on other processes.

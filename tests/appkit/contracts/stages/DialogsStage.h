@@ -11,7 +11,7 @@
 
 namespace qbsp::contracts {
 
-/// The main thread's run loop, and a user who answers alerts and open panels.
+/// The main thread's run loop, and a user who responds to alerts and open panels.
 class DialogsStage {
 public:
     static std::unique_ptr<DialogsStage> simulated();
@@ -23,8 +23,8 @@ public:
     [[nodiscard]] virtual platform::Alerts& alerts() = 0;
     [[nodiscard]] virtual platform::OpenPanels& openPanels() = 0;
 
-    /// Lets the run loop run until the condition holds; the time that took. Fails the test when it never
-    /// does.
+    /// Lets the run loop run until the condition holds; returns the time that took. Fails the test when it
+    /// never does.
     virtual platform::Seconds runUntil(const std::function<bool()>& condition) = 0;
 
     /// From now on the user presses that button of an alert.

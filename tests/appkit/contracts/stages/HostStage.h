@@ -12,7 +12,7 @@
 
 namespace qbsp::contracts {
 
-/// What the host's application object answers to the pane's questions.
+/// What the host's application object returns to the pane.
 struct HostAnswers {
     bool isSandboxed = false;
     bool isPro = false;
@@ -36,7 +36,7 @@ public:
     virtual void letHostAnswer(HostAnswers answers) = 0;
     virtual void letHostNotKnowTheQuestions() = 0;
 
-    /// What the process is called, and where its main bundle lies, as anybody outside sees it.
+    /// The name of the process and the path of its main bundle, as other processes see them.
     [[nodiscard]] virtual std::string trueProcessName() const = 0;
     [[nodiscard]] virtual std::string trueMainBundlePath() const = 0;
 

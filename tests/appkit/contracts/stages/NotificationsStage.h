@@ -7,8 +7,8 @@
 
 namespace qbsp::contracts {
 
-/// A notification as a listener gets it.
-struct Heard {
+/// A notification as a listener receives it.
+struct Received {
     std::string name;
     std::string object;
     std::optional<platform::Dictionary> userInfo;
@@ -24,8 +24,9 @@ public:
 
     [[nodiscard]] virtual platform::DistributedNotificationCenter& notifications() = 0;
 
-    /// True when the listener gets that notification next. Booleans may arrive as numbers.
-    [[nodiscard]] virtual bool hears(const Heard& expected) = 0;
+    /// True when the next notification that the listener receives is that one. Booleans may arrive as
+    /// numbers.
+    [[nodiscard]] virtual bool receivesNext(const Received& expected) = 0;
 };
 
 } // namespace qbsp::contracts

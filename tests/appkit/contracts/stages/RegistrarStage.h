@@ -26,7 +26,7 @@ public:
     [[nodiscard]] virtual platform::ClassName loaderWithoutRegistrar() = 0;
     [[nodiscard]] virtual platform::ClassName noLoader() = 0;
 
-    /// Where the executable of the registrar's bundle lies.
+    /// The path of the executable of the registrar's bundle.
     [[nodiscard]] virtual std::string registrarExecutable() const = 0;
 
     /// From now on the registrar adds and removes nothing.

@@ -30,7 +30,7 @@ public:
     [[nodiscard]] virtual platform::Dictionary domainSeenByOthers(const std::string& domain) = 0;
     [[nodiscard]] virtual platform::Dictionary defaultsSeenByOthers() = 0;
 
-    /// Sets and then flushes while nothing can be written; the answer of the flush.
+    /// Sets and then flushes while nothing can be written; returns what the flush returned.
     [[nodiscard]] virtual bool flushInVain(const std::function<void()>& set,
                                            const std::function<bool()>& flush) = 0;
 };

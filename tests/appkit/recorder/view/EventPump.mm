@@ -47,7 +47,7 @@ bool run(const std::vector<std::string>& command) {
     pid_t child = 0;
     if (posix_spawnp(&child, arguments.front(), nullptr, nullptr, arguments.data(), environ) != 0)
         return false;
-    // GNUstep waits for every child of the process, and may have been first.
+    // GNUstep reaps every child of the process, and may have been first.
     return waitUntil([child] {
         const pid_t ended = waitpid(child, nullptr, WNOHANG);
         return ended == child || (ended == -1 && errno == ECHILD);

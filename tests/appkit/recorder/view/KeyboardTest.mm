@@ -26,7 +26,7 @@ NSEvent* keyEvent(NSEventType type, X11KeyCode keyCode, CocoaFlags flags) {
                              keyCode:static_cast<unsigned short>(keyCode)];
 }
 
-/// The bits that GNUstep sets out of the box for those modifiers.
+/// The bits that GNUstep sets for those modifiers when nothing is configured.
 CocoaFlags eventBits(CocoaFlags flags) {
     constexpr CocoaFlags helpBit = 0x400000;
     return (flags & (modifiers::shift | modifiers::control)) |
@@ -47,7 +47,7 @@ class KeyboardLayout : public RecorderView {
         RecorderView::TearDown();
     }
 
-    /// What is shown once the layout has got around; the last that was seen when it never is.
+    /// What is shown once the new layout is in use; what was shown last when it never is.
     std::string shown(const std::string& expected) {
         std::string seen;
         std::ignore = waitUntil([&] { return (seen = text([first stringValue])) == expected; });

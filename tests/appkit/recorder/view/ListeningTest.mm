@@ -112,7 +112,7 @@ TEST_F(RecorderView, LeavingItsWindowDisarmsIt) {
     EXPECT_FALSE([first isListening]);
 }
 
-TEST_F(RecorderView, EscCancelsAndNeverErases) {
+TEST_F(RecorderView, EscCancelsAndKeepsTheCombination) {
     [first setKeyCode:0 flags:modifiers::command];
     armFirst();
 
@@ -120,7 +120,7 @@ TEST_F(RecorderView, EscCancelsAndNeverErases) {
 
     EXPECT_FALSE([first isListening]);
     EXPECT_EQ(comboOf(first), commandA);
-    EXPECT_TRUE(heard.reported.empty());
+    EXPECT_TRUE(delegateCalls.reported.empty());
 }
 
 TEST_F(RecorderView, TabMovesOn) {
@@ -143,7 +143,7 @@ TEST_F(RecorderView, ShiftTabMovesBack) {
     EXPECT_EQ([window firstResponder], first);
 }
 
-TEST_F(RecorderView, TabMovesOnAlsoWhileItIsIdle) {
+TEST_F(RecorderView, TabAlsoMovesOnWhileItIsIdle) {
     focus(first);
 
     press("Tab");
@@ -157,7 +157,7 @@ TEST_F(RecorderView, WhileArmedItKeepsKeysFromButtonsAndMenus) {
     press("Return");
     press("ctrl+Return");
 
-    EXPECT_EQ(window->actions, 0);
+    EXPECT_EQ(window->actions, 0) << "Return should not have reached the button";
     EXPECT_EQ(comboOf(first), (KeyCombo{.flags = modifiers::control, .code = keys::returnKey}));
 }
 
@@ -166,7 +166,8 @@ TEST_F(RecorderView, WhileIdleItLeavesKeysToButtonsAndMenus) {
 
     press("Return");
 
-    EXPECT_TRUE(waitUntil([&] { return window->actions == 1; }));
+    EXPECT_TRUE(waitUntil([&] { return window->actions == 1; }))
+        << "Return should have pressed the button once, and not " << window->actions << " times";
 }
 
 TEST_F(RecorderView, WhileArmedItKeepsTheMenusShortcutsFromTheMenu) {
@@ -179,9 +180,9 @@ TEST_F(RecorderView, WhileArmedItKeepsTheMenusShortcutsFromTheMenu) {
     const int whileArmed = window->actions;
     press("alt+c");
 
-    EXPECT_EQ(whileArmed, 0);
+    EXPECT_EQ(whileArmed, 0) << "the shortcut should not have reached the menu while the recorder listens";
     EXPECT_EQ(comboOf(first), (KeyCombo{.flags = modifiers::option, .code = keyC}));
-    EXPECT_EQ(window->actions, 1) << "once it is idle again, the menu has its key back";
+    EXPECT_EQ(window->actions, 1) << "the shortcut should reach the menu once the recorder is idle";
     [NSApp setMainMenu:nil];
 }
 

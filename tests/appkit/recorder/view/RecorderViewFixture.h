@@ -22,26 +22,26 @@ class RecorderView : public testing::Test {
     void clickClearButton(QBSPRecorderView* view);
     void clickAt(NSView* view, NSPoint point);
 
-    /// Gives the view the focus without a click.
+    /// Makes the view the first responder without a click.
     void focus(NSView* view);
     void armFirst();
 
     /// Makes the window the one that keys go to.
     void makeKey(NSWindow* window);
 
-    /// True when the X server tells this application of no release of a key that is held down.
-    [[nodiscard]] bool hearsNoReleaseOfHeldKeys() const;
+    /// True when the X server sends this application no release of a key while it is held down.
+    [[nodiscard]] bool isSentNoReleaseOfHeldKeys() const;
 
     [[nodiscard]] KeyCombo comboOf(QBSPRecorderView* view) const;
     [[nodiscard]] std::string reason() const;
 
-    Heard heard;
+    DelegateCalls delegateCalls;
     RecorderWindow* window = nil;
     QBSPRecorderView* first = nil;
     QBSPRecorderView* second = nil;
 
   private:
-    appkit::Retained<HearingDelegate*> delegate_;
+    appkit::Retained<RecordingDelegate*> delegate_;
 };
 
 [[nodiscard]] std::string text(NSString* string);

@@ -23,7 +23,7 @@ XWindow::Point screenPoint(NSView* view, NSPoint point) {
         .onScreen({static_cast<int>(inWindow.x), static_cast<int>(height - inWindow.y)});
 }
 
-/// One window serves all tests: a window manager takes its time to hand the keyboard from one to the next.
+/// All tests share one window: a window manager is slow to pass the keyboard from one to the next.
 RecorderWindow* sharedWindow() {
     static RecorderWindow* const window = [[RecorderWindow alloc] initAtOrigin:NSMakePoint(200, 400)];
     [window fill];
@@ -36,7 +36,8 @@ void RecorderView::SetUp() {
     window = sharedWindow();
     first = window->first;
     second = window->second;
-    delegate_ = appkit::Retained<HearingDelegate*>::adopt([[HearingDelegate alloc] initWithHeard:&heard]);
+    delegate_ =
+        appkit::Retained<RecordingDelegate*>::adopt([[RecordingDelegate alloc] initWithCalls:&delegateCalls]);
     [first setDelegate:delegate_.get()];
     [second setDelegate:delegate_.get()];
     makeKey(window);
@@ -49,7 +50,8 @@ void RecorderView::TearDown() {
 void RecorderView::press(const std::string& keys) {
     const int before = window->keyUps;
     ASSERT_TRUE(run({"xdotool", "key", "--delay", "0", keys})) << keys;
-    ASSERT_TRUE(waitUntil([&] { return window->keyUps > before; })) << keys;
+    ASSERT_TRUE(waitUntil([&] { return window->keyUps > before; }))
+        << "the window should have seen " << keys << " released";
 }
 
 void RecorderView::click(NSView* view) {
@@ -68,7 +70,9 @@ void RecorderView::clickAt(NSView* view, NSPoint point) {
     ASSERT_TRUE(run({"xdotool", "mousemove", std::to_string(target.x), std::to_string(target.y)}));
     ASSERT_TRUE(run({"xdotool", "mousedown", "1", "mouseup", "1"}));
     // The window manager may hold the press back until after the release.
-    ASSERT_TRUE(waitUntil([&] { return window->mouseDowns > downs && window->mouseUps > ups; }));
+    ASSERT_TRUE(waitUntil([&] { return window->mouseDowns > downs && window->mouseUps > ups; }))
+        << "the window should have seen a press and a release, and saw " << window->mouseDowns - downs
+        << " and " << window->mouseUps - ups;
 }
 
 void RecorderView::focus(NSView* view) {
@@ -83,12 +87,14 @@ void RecorderView::armFirst() {
 
 void RecorderView::makeKey(NSWindow* other) {
     [other makeKeyAndOrderFront:nil];
-    ASSERT_TRUE(
-        waitUntil([&] { return [NSApp isActive] && [other isKeyWindow] && xWindow(other).hasKeyboard(); }));
+    ASSERT_TRUE(waitUntil([&] {
+        return [NSApp isActive] && [other isKeyWindow] && xWindow(other).hasKeyboard();
+    })) << "keys should go to the window; active, key, with keyboard: "
+        << [NSApp isActive] << [other isKeyWindow] << xWindow(other).hasKeyboard();
 }
 
-bool RecorderView::hearsNoReleaseOfHeldKeys() const {
-    return xWindow(window).hearsNoReleaseOfHeldKeys();
+bool RecorderView::isSentNoReleaseOfHeldKeys() const {
+    return xWindow(window).isSentNoReleaseOfHeldKeys();
 }
 
 KeyCombo RecorderView::comboOf(QBSPRecorderView* view) const {

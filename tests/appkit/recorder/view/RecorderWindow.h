@@ -10,8 +10,8 @@
 
 namespace qbsp::recorder {
 
-/// What a delegate was asked and told, and what it answers.
-struct Heard {
+/// The calls that a delegate received, and the combination that it says is taken.
+struct DelegateCalls {
     std::vector<KeyCombo> offered;
     std::vector<KeyCombo> reported;
     std::optional<KeyCombo> taken;
@@ -19,16 +19,16 @@ struct Heard {
 
 } // namespace qbsp::recorder
 
-/// Notes what it hears.
-@interface HearingDelegate : NSObject <QBSPRecorderViewDelegate> {
+/// Remembers the calls that it receives.
+@interface RecordingDelegate : NSObject <QBSPRecorderViewDelegate> {
   @private
-    qbsp::recorder::Heard* _heard;
+    qbsp::recorder::DelegateCalls* _calls;
 }
-- (id)initWithHeard:(qbsp::recorder::Heard*)heard;
+- (id)initWithCalls:(qbsp::recorder::DelegateCalls*)calls;
 @end
 
 /// A window with two recorders, a text field, a field for reasons and a button that Return presses. It counts
-/// the events that it has dealt with.
+/// the events that it has handled.
 @interface RecorderWindow : NSWindow {
   @public
     QBSPRecorderView* first;

@@ -7,7 +7,7 @@ using namespace qbsp::recorder;
 
 namespace {
 
-/// The keys that modify others, as the X server numbers them.
+/// The modifier keys, by their X key codes.
 bool isModifierKey(unsigned keyCode) {
     constexpr std::array<unsigned, 11> keys{37, 50, 62, 64, 66, 77, 92, 105, 108, 133, 134};
     return std::ranges::find(keys, keyCode) != keys.end();
@@ -15,11 +15,11 @@ bool isModifierKey(unsigned keyCode) {
 
 } // namespace
 
-@implementation HearingDelegate
+@implementation RecordingDelegate
 
-- (id)initWithHeard:(Heard*)heard {
+- (id)initWithCalls:(DelegateCalls*)calls {
     if ((self = [super init]) != nil)
-        _heard = heard;
+        _calls = calls;
     return self;
 }
 
@@ -28,8 +28,8 @@ bool isModifierKey(unsigned keyCode) {
        andFlagsTaken:(NSUInteger)cocoaFlags
               reason:(NSString**)reason {
     const KeyCombo combo{.flags = cocoaFlags, .code = code};
-    _heard->offered.push_back(combo);
-    if (combo != _heard->taken)
+    _calls->offered.push_back(combo);
+    if (combo != _calls->taken)
         return NO;
     *reason = @"this combination is used elsewhere";
     return YES;
@@ -38,7 +38,7 @@ bool isModifierKey(unsigned keyCode) {
 - (void)recorderView:(QBSPRecorderView*)__attribute__((unused))view
     keyComboDidChange:(NSInteger)code
                 flags:(NSUInteger)cocoaFlags {
-    _heard->reported.push_back({.flags = cocoaFlags, .code = code});
+    _calls->reported.push_back({.flags = cocoaFlags, .code = code});
 }
 
 @end

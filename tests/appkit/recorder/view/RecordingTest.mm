@@ -28,8 +28,8 @@ TEST_F(RecorderView, OffersACombinationWithCommandOptionOrControlToTheDelegate) 
     for (const CocoaFlags flags : {modifiers::command, modifiers::option, modifiers::control}) {
         armFirst();
         press(keysOf(flags) + "c");
-        ASSERT_FALSE(heard.offered.empty());
-        EXPECT_EQ(heard.offered.back(), (KeyCombo{.flags = flags, .code = keyC}));
+        ASSERT_FALSE(delegateCalls.offered.empty());
+        EXPECT_EQ(delegateCalls.offered.back(), (KeyCombo{.flags = flags, .code = keyC}));
     }
 }
 
@@ -38,7 +38,7 @@ TEST_F(RecorderView, OffersAFunctionKeyAloneToTheDelegate) {
 
     press("F5");
 
-    EXPECT_EQ(heard.offered, (std::vector{KeyCombo{.flags = 0, .code = keyF5}}));
+    EXPECT_EQ(delegateCalls.offered, (std::vector{KeyCombo{.flags = 0, .code = keyF5}}));
 }
 
 TEST_F(RecorderView, RecordsEverySetOfModifiers) {
@@ -53,7 +53,7 @@ TEST_F(RecorderView, RecordsEverySetOfModifiers) {
     }
 }
 
-TEST_F(RecorderView, TakesTheKeysOnBothSidesOfTheKeyboardForTheSameModifier) {
+TEST_F(RecorderView, TreatsTheModifierKeysOnBothSidesOfTheKeyboardAlike) {
     constexpr std::pair<const char*, CocoaFlags> sides[] = {{"Control_R+c", modifiers::control},
                                                             {"Alt_R+c", modifiers::option},
                                                             {"Super_R+c", modifiers::command},
@@ -66,8 +66,8 @@ TEST_F(RecorderView, TakesTheKeysOnBothSidesOfTheKeyboardForTheSameModifier) {
     }
 }
 
-TEST_F(RecorderView, RefusesATakenCombinationInWordsKeepsTheOldOneAndGoesOnListening) {
-    heard.taken = controlC;
+TEST_F(RecorderView, RefusesATakenCombinationWithAReasonKeepsTheOldOneAndStillListens) {
+    delegateCalls.taken = controlC;
     [first setKeyCode:keyA flags:modifiers::command];
     armFirst();
 
@@ -76,11 +76,11 @@ TEST_F(RecorderView, RefusesATakenCombinationInWordsKeepsTheOldOneAndGoesOnListe
     EXPECT_EQ(reason(), "This combination is used elsewhere.");
     EXPECT_EQ(comboOf(first), commandA);
     EXPECT_TRUE([first isListening]);
-    EXPECT_TRUE(heard.reported.empty());
+    EXPECT_TRUE(delegateCalls.reported.empty());
 }
 
 TEST_F(RecorderView, ShowsTheReasonUntilTheNextKey) {
-    heard.taken = controlC;
+    delegateCalls.taken = controlC;
     armFirst();
     press("ctrl+c");
 
@@ -97,7 +97,7 @@ TEST_F(RecorderView, ShowsAnAcceptedCombinationInSymbolsAndReportsItOnce) {
 
     const KeyCombo combo{.flags = modifiers::control | modifiers::shift, .code = keyC};
     EXPECT_EQ(text([first stringValue]), "⌃⇧C");
-    EXPECT_EQ(heard.reported, std::vector{combo});
+    EXPECT_EQ(delegateCalls.reported, std::vector{combo});
     EXPECT_FALSE([first isListening]);
 }
 
@@ -107,7 +107,7 @@ TEST_F(RecorderView, DoesNotReportTheCombinationItAlreadyHolds) {
 
     press("ctrl+c");
 
-    EXPECT_TRUE(heard.reported.empty());
+    EXPECT_TRUE(delegateCalls.reported.empty());
     EXPECT_FALSE([first isListening]);
 }
 
@@ -117,11 +117,11 @@ TEST_F(RecorderView, DeleteAndBackspaceClearItAndReportTheEmptyCombination) {
         armFirst();
         press(key);
         EXPECT_EQ(comboOf(first), empty);
-        ASSERT_FALSE(heard.reported.empty());
-        EXPECT_EQ(heard.reported.back(), empty);
+        ASSERT_FALSE(delegateCalls.reported.empty());
+        EXPECT_EQ(delegateCalls.reported.back(), empty);
         EXPECT_FALSE([first isListening]);
     }
-    EXPECT_EQ(heard.reported.size(), 2U);
+    EXPECT_EQ(delegateCalls.reported.size(), 2U) << "each key should have been reported once";
 }
 
 TEST_F(RecorderView, TheClearButtonClearsItAndReportsTheEmptyCombination) {
@@ -130,7 +130,7 @@ TEST_F(RecorderView, TheClearButtonClearsItAndReportsTheEmptyCombination) {
     clickClearButton(first);
 
     EXPECT_EQ(comboOf(first), empty);
-    EXPECT_EQ(heard.reported, std::vector{empty});
+    EXPECT_EQ(delegateCalls.reported, std::vector{empty});
     EXPECT_FALSE([first isListening]);
 }
 
@@ -141,37 +141,37 @@ TEST_F(RecorderView, TheClearButtonEndsListeningToo) {
     clickClearButton(first);
 
     EXPECT_FALSE([first isListening]);
-    EXPECT_EQ(heard.reported, std::vector{empty});
+    EXPECT_EQ(delegateCalls.reported, std::vector{empty});
 }
 
-TEST_F(RecorderView, AnEmptyOneHasNoClearButton) {
+TEST_F(RecorderView, AnEmptyRecorderHasNoClearButton) {
     clickClearButton(first);
 
     EXPECT_TRUE([first isListening]);
-    EXPECT_TRUE(heard.reported.empty());
+    EXPECT_TRUE(delegateCalls.reported.empty());
 }
 
-TEST_F(RecorderView, RefusesShiftAloneWithALetterInWords) {
+TEST_F(RecorderView, RefusesALetterWithShiftAloneAndSaysWhy) {
     armFirst();
 
     press("shift+c");
 
     EXPECT_EQ(reason(), "Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well.");
-    EXPECT_TRUE(heard.offered.empty());
+    EXPECT_TRUE(delegateCalls.offered.empty());
     EXPECT_TRUE([first isListening]);
 }
 
-TEST_F(RecorderView, RefusesAPlainLetterInWords) {
+TEST_F(RecorderView, RefusesAPlainLetterAndSaysWhy) {
     armFirst();
 
     press("c");
 
     EXPECT_EQ(reason(), "Hold Control, Option (Alt) or Command (Super) together with this key.");
-    EXPECT_TRUE(heard.offered.empty());
+    EXPECT_TRUE(delegateCalls.offered.empty());
     EXPECT_TRUE([first isListening]);
 }
 
-TEST_F(RecorderView, RefusesAKeyThatTheMacDoesNotHaveInWords) {
+TEST_F(RecorderView, RefusesAKeyThatTheMacDoesNotHaveAndSaysWhy) {
     armFirst();
 
     press("ctrl+Print");
@@ -183,7 +183,7 @@ TEST_F(RecorderView, DoesNotReportACombinationSetByTheProgram) {
     [first setKeyCode:keyC flags:modifiers::control];
 
     EXPECT_EQ(text([first stringValue]), "⌃C");
-    EXPECT_TRUE(heard.reported.empty());
+    EXPECT_TRUE(delegateCalls.reported.empty());
 }
 
 TEST_F(RecorderView, TreatsKeyCodeZeroLikeAnyOther) {
@@ -192,23 +192,24 @@ TEST_F(RecorderView, TreatsKeyCodeZeroLikeAnyOther) {
     press("super+a");
 
     EXPECT_EQ(text([first stringValue]), "⌘A");
-    EXPECT_EQ(heard.reported, std::vector{commandA});
+    EXPECT_EQ(delegateCalls.reported, std::vector{commandA});
 }
 
-TEST_F(RecorderView, DoesNotTakeTheRepetitionsOfAKeyForMoreKeys) {
-    heard.taken = controlC;
+TEST_F(RecorderView, DoesNotTakeTheRepetitionsOfAKeyForFurtherKeys) {
+    delegateCalls.taken = controlC;
     armFirst();
 
     window->keyDowns = 0;
     ASSERT_TRUE(run({"xdotool", "keydown", "ctrl", "keydown", "c"}));
-    EXPECT_TRUE(waitUntil([&] { return window->keyDowns > 3; }));
+    EXPECT_TRUE(waitUntil([&] { return window->keyDowns > 3; }))
+        << "the key that is held down should repeat; the window saw it " << window->keyDowns << " times";
     ASSERT_TRUE(run({"xdotool", "keyup", "c", "keyup", "ctrl"}));
 
-    EXPECT_EQ(heard.offered.size(), 1U);
+    EXPECT_EQ(delegateCalls.offered.size(), 1U) << "the key should have been offered once, when it went down";
 }
 
-TEST_F(RecorderView, HearsNoReleaseBetweenTheRepetitionsHoweverLateTheyArrive) {
-    EXPECT_TRUE(hearsNoReleaseOfHeldKeys());
+TEST_F(RecorderView, IsSentNoReleaseBetweenTheRepetitionsOfAHeldKey) {
+    EXPECT_TRUE(isSentNoReleaseOfHeldKeys());
 }
 
 TEST_F(RecorderView, WorksWithoutADelegate) {
@@ -230,7 +231,7 @@ TEST_F(RecorderView, AScreenReaderGetsRoleLabelAndValueInWords) {
     EXPECT_EQ(text([first accessibilityValue]), "Command Shift C");
 }
 
-TEST_F(RecorderView, AScreenReaderGetsWhatAnEmptyOneAndOneThatListensSay) {
+TEST_F(RecorderView, AScreenReaderGetsTheTextsOfAnEmptyAndOfAListeningRecorder) {
     EXPECT_EQ(text([first accessibilityValue]), "No shortcut");
 
     armFirst();

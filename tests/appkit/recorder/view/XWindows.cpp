@@ -6,7 +6,7 @@ namespace qbsp::recorder {
 
 namespace {
 
-/// The X server numbers what a client makes within a range of its own.
+/// Each client's windows have numbers from a range of its own.
 constexpr unsigned long clientMask = 0xffe00000;
 
 } // namespace
@@ -18,7 +18,7 @@ bool XWindow::hasKeyboard() const {
     return (focused & clientMask) == (window_ & clientMask);
 }
 
-bool XWindow::hearsNoReleaseOfHeldKeys() const {
+bool XWindow::isSentNoReleaseOfHeldKeys() const {
     return XkbGetDetectableAutoRepeat(static_cast<Display*>(display_), nullptr) == True;
 }
 

@@ -2,8 +2,8 @@
 
 namespace qbsp::recorder {
 
-/// What the X server says of a window that AppKit cannot know for sure: AppKit calls a window key before the
-/// window manager has agreed, and does not hear at once where the window manager has put it.
+/// What only the X server knows about a window: AppKit calls a window key before the
+/// window manager has agreed, and does not learn at once where the window manager has put it.
 class XWindow {
 public:
     /// Takes a Display* and the window's number.
@@ -12,8 +12,8 @@ public:
     /// True when keys go to a window of the client that owns this one.
     [[nodiscard]] bool hasKeyboard() const;
 
-    /// True when the client that owns the window hears of no release of a key that is held down.
-    [[nodiscard]] bool hearsNoReleaseOfHeldKeys() const;
+    /// True when the client that owns the window is sent no release of a key while it is held down.
+    [[nodiscard]] bool isSentNoReleaseOfHeldKeys() const;
 
     struct Point {
         int x;
