@@ -4,6 +4,8 @@
 
 #import <AppKit/AppKit.h>
 
+#include <memory>
+
 struct QBSPRecorderParts;
 
 /// A field that records a key combination. A click or Space makes it listen; Esc, the loss of the focus or of
@@ -13,7 +15,7 @@ struct QBSPRecorderParts;
 /// combination.
 @interface QBSPRecorderView : NSView {
   @private
-    struct QBSPRecorderParts* _parts;
+    std::unique_ptr<QBSPRecorderParts> _parts;
 }
 
 /// Shows that combination from now on; the delegate does not hear of it. Bits of the flags other than Shift,

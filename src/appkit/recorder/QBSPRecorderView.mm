@@ -37,13 +37,12 @@ struct QBSPRecorderParts {
 
 - (id)initWithFrame:(NSRect)frame {
     if ((self = [super initWithFrame:frame]) != nil)
-        _parts = new QBSPRecorderParts(self);
+        _parts = std::make_unique<QBSPRecorderParts>(self);
     return self;
 }
 
 - (void)dealloc {
     [[NSNotificationCenter defaultCenter] removeObserver:self];
-    delete _parts;
     [super dealloc];
 }
 

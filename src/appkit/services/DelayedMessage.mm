@@ -2,37 +2,35 @@
 
 #include "appkit/bridge/Retained.h"
 
-namespace {
+#include <memory>
+#include <utility>
 
-struct Delayed {
+namespace qbsp::appkit {
+
+struct DelayedMessage {
     // What the message holds goes before the object whose services it may still use.
-    qbsp::appkit::Retained<id> keptAlive;
-    std::function<void()> message;
+    Retained<id> keptAlive;
+    std::function<void()> send;
 };
 
-} // namespace
+} // namespace qbsp::appkit
 
 /// The target of a delayed message. The run loop retains it until the message was sent.
 @interface QBSPDelayedMessage : NSObject {
-    void* delayed;
+    std::unique_ptr<qbsp::appkit::DelayedMessage> message;
 }
 @end
 
 @implementation QBSPDelayedMessage
 
-- (id)initWithDelayed:(void*)aDelayed {
+- (id)initWithMessage:(std::unique_ptr<qbsp::appkit::DelayedMessage>)aMessage {
     if ((self = [super init]) != nil)
-        delayed = aDelayed;
+        message = std::move(aMessage);
     return self;
 }
 
-- (void)dealloc {
-    delete static_cast<Delayed*>(delayed);
-    [super dealloc];
-}
-
 - (void)send {
-    static_cast<Delayed*>(delayed)->message();
+    message->send();
 }
 
 @end
@@ -40,9 +38,10 @@ struct Delayed {
 namespace qbsp::appkit {
 
 void sendAfterDelay(std::function<void()> message, NSTimeInterval delay, id keptAlive) {
-    auto* delayed = new Delayed{Retained<id>(keptAlive), std::move(message)};
+    auto delayed =
+        std::make_unique<DelayedMessage>(DelayedMessage{Retained<id>(keptAlive), std::move(message)});
     const auto target =
-        Retained<QBSPDelayedMessage*>::adopt([[QBSPDelayedMessage alloc] initWithDelayed:delayed]);
+        Retained<QBSPDelayedMessage*>::adopt([[QBSPDelayedMessage alloc] initWithMessage:std::move(delayed)]);
     [target.get() performSelector:@selector(send) withObject:nil afterDelay:delay];
 }
 
