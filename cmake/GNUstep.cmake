@@ -14,6 +14,10 @@ set(GNUstep_FOUND TRUE)
 find_program(CMAKE_OBJC_COMPILER gcc REQUIRED)
 find_program(CMAKE_OBJCXX_COMPILER g++ REQUIRED)
 
+# Of Objective-C's own headers GCC brings the only ones; other tools that read these sources need to be told where.
+execute_process(COMMAND ${CMAKE_OBJC_COMPILER} -print-file-name=include
+                OUTPUT_VARIABLE objc_headers OUTPUT_STRIP_TRAILING_WHITESPACE)
+
 execute_process(COMMAND ${GNUSTEP_CONFIG} --objc-flags OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE)
 execute_process(COMMAND ${GNUSTEP_CONFIG} --gui-libs OUTPUT_VARIABLE libraries OUTPUT_STRIP_TRAILING_WHITESPACE)
 if(NOT flags OR NOT libraries)
@@ -28,7 +32,7 @@ list(FILTER libraries INCLUDE REGEX "^-(l|L/usr|shared-libgcc|pthread)")
 
 add_library(gnustep_gui INTERFACE)
 target_compile_options(gnustep_gui INTERFACE
-    "$<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:${flags}>"
+    "$<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:${flags};SHELL:-idirafter ${objc_headers}>"
     $<$<COMPILE_LANGUAGE:OBJC>:-std=c11>
     "$<$<COMPILE_LANGUAGE:OBJCXX>:-std=c++20;-fobjc-call-cxx-cdtors>")
 target_include_directories(gnustep_gui SYSTEM INTERFACE /usr/include/GNUstep)

@@ -48,13 +48,6 @@ function(room_headers name)
     target_include_directories(${name}_headers INTERFACE "${ROOM_INCLUDES}/offered/${name}")
     list(TRANSFORM ROOM_USES APPEND _headers)
     target_link_libraries(${name}_headers INTERFACE ${ROOM_USES})
-    if(SORTERPANE_CORE_ONLY AND SORTERPANE_CHECKS STREQUAL "coverage")
-        # Headers are included through links; the report knows them by where they lie.
-        foreach(way IN ITEMS inside offered)
-            target_compile_options(project_options INTERFACE
-                "-fprofile-prefix-map=${ROOM_INCLUDES}/${way}/${name}=${PROJECT_SOURCE_DIR}/src")
-        endforeach()
-    endif()
 endfunction()
 
 # The target <name>_room holds the objects of a room's sources.

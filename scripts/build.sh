@@ -1,28 +1,24 @@
-# Builds, for the scripts that source it; $root is the project's folder. A build that fails shows what it printed.
+# Builds, for the scripts that source it; $root is the project's folder. CMakePresets.json says what each build is.
 
-# Configures and builds one folder; says nothing when all is well. Sources are compiled in batches: these folders are
-# built from scratch more often than they are edited in.
-build_folder() { # FOLDER [CMAKE OPTION...]
-    local folder=$1 log
+# Runs the commands at the project's root; shows what they printed only if one fails.
+quietly() { # LOG COMMAND...
+    local log="$root/build/logs/$1"
     shift
-    mkdir -p "$folder"
-    log="$folder/build.log"
-    printf 'Building %s ...\n' "${folder#"$root"/}"
-    if ! { cmake -S "$root" -B "$folder" -G Ninja -DCMAKE_UNITY_BUILD=ON "$@" && cmake --build "$folder"; } >"$log" 2>&1; then
+    mkdir -p "${log%/*}"
+    if ! (cd "$root" && "$@") >"$log" 2>&1; then
         cat "$log" >&2
-        printf 'The build failed; all of the above is in %s\n' "$log" >&2
+        printf 'This failed: %s\nAll of the above is in %s\n' "$*" "$log" >&2
         return 1
     fi
 }
 
-# The plug-in, the stand-ins and the player.
-build_application() {
-    build_folder "$root/build"
+# Writes the build folder of the preset, with its compile database.
+configure_preset() { # PRESET
+    quietly "$1-configure.log" cmake --preset "$1"
 }
 
-# The portable core with its tests, instrumented.
-build_core() { # NAME [CMAKE OPTION...]
-    local name=$1
-    shift
-    build_folder "$root/build/$name" -DSORTERPANE_CORE_ONLY=ON "$@"
+build_preset() { # PRESET
+    printf 'Building %s ...\n' "$1"
+    configure_preset "$1" &&
+        quietly "$1-build.log" cmake --build --preset "$1"
 }

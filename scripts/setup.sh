@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # setup.sh PURPOSE...: installs the Debian packages that the purposes need and the machine lacks; says so first.
-# Purposes: core (the portable rooms), application (the plug-in and what it runs in), tests, coverage, tidy.
+# Purposes: core (the portable rooms and their tests), house (the house's own rules), application (the plug-in and what
+# it runs in), tests (of the application), coverage, tidy.
 set -euo pipefail
 
 packages_for() {
@@ -12,9 +13,10 @@ packages_for() {
             pkg-config libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb openbox x11-utils
         ;;
     tests)
-        echo googletest python3 clang libclang-rt-dev clang-format g++-multilib \
+        echo googletest python3 clang libclang-rt-dev clang-format doxygen g++-multilib \
             x11-xkb-utils libxtst-dev xdotool desktop-file-utils systempreferences.app
         ;;
+    house) echo clang-format doxygen ;;
     coverage) echo gcovr ;;
     tidy) echo clang-tidy ;;
     *)
@@ -36,6 +38,10 @@ for purpose in "$@"; do
 done
 [ ${#missing[@]} -eq 0 ] && exit 0
 
+command -v apt-get >/dev/null || {
+    echo "This machine has no apt-get. What is missing, by its names in Debian 12: ${missing[*]}" >&2
+    exit 1
+}
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || {

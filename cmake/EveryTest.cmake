@@ -1,0 +1,23 @@
+# What holds for every test of this build, wherever it was added.
+
+# The names of the tests that a folder and those below it add.
+function(tests_below folder result)
+    get_property(names DIRECTORY "${folder}" PROPERTY TESTS)
+    get_property(subfolders DIRECTORY "${folder}" PROPERTY SUBDIRECTORIES)
+    foreach(subfolder IN LISTS subfolders)
+        tests_below("${subfolder}" more)
+        list(APPEND names ${more})
+    endforeach()
+    set(${result} "${names}" PARENT_SCOPE)
+endfunction()
+
+# Has all tests below the folder require those fixtures, in an environment modified like that. A test's properties can
+# be set in its own folder alone, but CTest, which reads this file after the others, knows them all.
+function(every_test_below folder fixtures environment)
+    tests_below("${folder}" names)
+    list(JOIN names "\" \"" names)
+    set(file "${CMAKE_CURRENT_BINARY_DIR}/EveryTest.cmake")
+    file(WRITE "${file}" "set_tests_properties(\"${names}\" PROPERTIES FIXTURES_REQUIRED \"${fixtures}\" "
+         "ENVIRONMENT_MODIFICATION \"${environment}\")\n")
+    set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${file}")
+endfunction()
