@@ -9,7 +9,7 @@ packages_for() {
     core) echo cmake ninja-build gcc g++ nlohmann-json3-dev googletest python3 ;;
     application)
         echo cmake ninja-build make g++ gobjc++ gnustep-make nlohmann-json3-dev \
-            libgnustep-gui-dev libpreferencepanes-dev gnustep-gui-runtime gnustep-base-runtime gnustep-back0.29-cairo \
+            libgnustep-gui-dev libpreferencepanes-dev libxml2-dev gnustep-gui-runtime gnustep-base-runtime gnustep-back0.29-cairo \
             pkg-config libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb openbox x11-utils
         ;;
     tests)

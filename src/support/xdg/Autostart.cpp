@@ -1,11 +1,9 @@
 #include "xdg/Autostart.h"
 
+#include "files/Draft.h"
+#include "files/Folders.h"
+#include "files/Reading.h"
 #include "xdg/UserFolders.h"
-#include "xdg/WholeFile.h"
-
-#include <fstream>
-#include <iterator>
-#include <system_error>
 
 namespace xdg {
 
@@ -15,32 +13,26 @@ Autostart Autostart::ofUser() {
 
 namespace {
 
-// Anything but a file, a folder in its place say, has no text.
-std::string textOf(const std::filesystem::path& file) {
-    std::error_code failure;
-    if (!std::filesystem::is_regular_file(file, failure))
-        return {};
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
+// Longer than any entry; what does not fit was not written for a desktop.
+constexpr std::size_t largestEntry = 1 << 20;
 
 } // namespace
 
 std::optional<std::string> Autostart::program(const std::string& identifier) const {
-    const auto entry = parsedDesktopEntry(textOf(file(identifier)));
+    const auto entry = parsedDesktopEntry(files::readWhole(file(identifier), largestEntry).contents);
     if (!entry || !entry->enabled)
         return std::nullopt;
     return entry->program;
 }
 
-bool Autostart::add(const std::string& identifier, const DesktopEntry& application) const {
-    return writeWhole(file(identifier), desktopEntryText(application));
+std::error_code Autostart::add(const std::string& identifier, const DesktopEntry& application) const {
+    return files::writeWhole(file(identifier), desktopEntryText(application));
 }
 
-bool Autostart::remove(const std::string& identifier) const {
+std::error_code Autostart::remove(const std::string& identifier) const {
     std::error_code failure;
-    std::filesystem::remove(file(identifier), failure);
-    return !failure;
+    const bool removed = std::filesystem::remove(file(identifier), failure);
+    return removed ? files::syncFolder(folder_) : failure;
 }
 
 std::filesystem::path Autostart::file(const std::string& identifier) const {

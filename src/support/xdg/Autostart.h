@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 
 namespace xdg {
@@ -21,16 +22,17 @@ public:
     /// user switched off.
     [[nodiscard]] std::optional<std::string> program(const std::string& identifier) const;
 
-    /// Starts the application at login; an entry that the user switched off is switched on again. False when
-    /// the entry could not be written; what was there before is then untouched.
-    [[nodiscard]] bool add(const std::string& identifier, const DesktopEntry& application) const;
+    /// Starts the application at login; an entry that the user switched off is switched on again. An error
+    /// when the entry could not be written; what was there before is then untouched.
+    [[nodiscard]] std::error_code add(const std::string& identifier, const DesktopEntry& application) const;
 
-    /// Starts it no longer. True when there is no entry afterwards, also when there was none.
-    [[nodiscard]] bool remove(const std::string& identifier) const;
+    /// Starts it no longer. No error when there is no entry afterwards, also when there was none.
+    [[nodiscard]] std::error_code remove(const std::string& identifier) const;
 
-private:
+    /// Where the entry of that identifier lies, or would lie.
     [[nodiscard]] std::filesystem::path file(const std::string& identifier) const;
 
+private:
     std::filesystem::path folder_;
 };
 

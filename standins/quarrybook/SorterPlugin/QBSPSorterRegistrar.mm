@@ -67,7 +67,7 @@ std::string sorterBundle() {
     const LoginItem item = loginItemAt(applicationURL);
     if (refuses() || !isApplication(item))
         return NO;
-    return isRegistered(item) || xdg::Autostart::ofUser().add(item.identifier, item.entry);
+    return isRegistered(item) || !xdg::Autostart::ofUser().add(item.identifier, item.entry);
 }
 
 // An entry that starts another copy, or that the user switched off, is left alone.
@@ -75,7 +75,7 @@ std::string sorterBundle() {
     const LoginItem item = loginItemAt(applicationURL);
     if (refuses() || applicationURL == nil)
         return NO;
-    return !isRegistered(item) || xdg::Autostart::ofUser().remove(item.identifier);
+    return !isRegistered(item) || !xdg::Autostart::ofUser().remove(item.identifier);
 }
 
 - (void)showAccountsSystemPreferencePane {

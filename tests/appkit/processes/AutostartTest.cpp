@@ -1,8 +1,8 @@
 #include "xdg/Autostart.h"
 
 #include "TemporaryFolder.h"
+#include "files/Draft.h"
 #include "xdg/UserFolders.h"
-#include "xdg/WholeFile.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +10,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <sys/stat.h>
 
 namespace xdg {
 
@@ -40,7 +41,7 @@ protected:
 } // namespace
 
 TEST_F(AutostartFolder, IsMadeWhenItIsMissing) {
-    EXPECT_TRUE(autostart.add(identifier, sorter));
+    EXPECT_FALSE(autostart.add(identifier, sorter));
 
     EXPECT_EQ(contentOf(file), desktopEntryText(sorter));
     EXPECT_EQ(filesIn(folder), 1) << "there should be one entry and no temporary file";
@@ -49,35 +50,35 @@ TEST_F(AutostartFolder, IsMadeWhenItIsMissing) {
 TEST_F(AutostartFolder, ReturnsTheProgramThatItStarts) {
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
 
-    ASSERT_TRUE(autostart.add(identifier, sorter));
+    ASSERT_FALSE(autostart.add(identifier, sorter));
 
     EXPECT_EQ(autostart.program(identifier), sorter.program);
     EXPECT_EQ(autostart.program("com.quarrybook.SoloSorter"), std::nullopt);
 }
 
 TEST_F(AutostartFolder, RemovesAnEntryAndSucceedsWhenThereIsNone) {
-    ASSERT_TRUE(autostart.add(identifier, sorter));
+    ASSERT_FALSE(autostart.add(identifier, sorter));
 
-    EXPECT_TRUE(autostart.remove(identifier));
-    EXPECT_TRUE(autostart.remove(identifier));
+    EXPECT_FALSE(autostart.remove(identifier));
+    EXPECT_FALSE(autostart.remove(identifier));
 
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
     EXPECT_EQ(filesIn(folder), 0) << "the entry should have been removed";
 }
 
 TEST_F(AutostartFolder, HoldsAnEntryThatTheUserSwitchedOffUntilItIsAddedAgain) {
-    ASSERT_TRUE(writeWhole(file, desktopEntryText(sorter) + "Hidden=true\n"));
+    ASSERT_FALSE(files::writeWhole(file, desktopEntryText(sorter) + "Hidden=true\n"));
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
 
-    ASSERT_TRUE(autostart.add(identifier, sorter));
+    ASSERT_FALSE(autostart.add(identifier, sorter));
 
     EXPECT_EQ(autostart.program(identifier), sorter.program);
 }
 
 TEST_F(AutostartFolder, RefusesWhenItCannotBeMade) {
-    ASSERT_TRUE(writeWhole(temporary.path() / "config", "a file where the folder should be"));
+    ASSERT_FALSE(files::writeWhole(temporary.path() / "config", "a file where the folder should be"));
 
-    EXPECT_FALSE(autostart.add(identifier, sorter));
+    EXPECT_TRUE(autostart.add(identifier, sorter));
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
     EXPECT_EQ(contentOf(temporary.path() / "config"), "a file where the folder should be");
 }
@@ -85,21 +86,40 @@ TEST_F(AutostartFolder, RefusesWhenItCannotBeMade) {
 TEST_F(AutostartFolder, RefusesWhenAFolderIsInTheEntrysPlaceAndLeavesNothingBehind) {
     fs::create_directories(file / "full");
 
-    EXPECT_FALSE(autostart.add(identifier, sorter));
+    EXPECT_TRUE(autostart.add(identifier, sorter));
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
-    EXPECT_FALSE(autostart.remove(identifier));
+    EXPECT_TRUE(autostart.remove(identifier));
     EXPECT_EQ(filesIn(folder), 1) << "there should be one entry and no temporary file";
 }
 
-TEST_F(AutostartFolder, IsReplacedAsAWholeFileThatOthersMayRead) {
-    ASSERT_TRUE(writeWhole(file, std::string(100'000, 'x')));
+TEST_F(AutostartFolder, IsReplacedAsAWholeFile) {
+    ASSERT_FALSE(files::writeWhole(file, std::string(100'000, 'x')));
     fs::create_hard_link(file, folder / "earlier");
 
-    ASSERT_TRUE(autostart.add(identifier, sorter));
+    ASSERT_FALSE(autostart.add(identifier, sorter));
 
     EXPECT_EQ(contentOf(folder / "earlier"), std::string(100'000, 'x')) << "the old file was written into";
     EXPECT_EQ(contentOf(file), desktopEntryText(sorter));
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
+}
+
+TEST_F(AutostartFolder, AndItsEntriesAreTheOwnersAloneWhateverTheUmask) {
+    const mode_t before = umask(0);
+    EXPECT_FALSE(autostart.add(identifier, sorter));
+    umask(before);
+
+    EXPECT_EQ(fs::status(folder.parent_path()).permissions(), fs::perms(0700));
+    EXPECT_EQ(fs::status(folder).permissions(), fs::perms(0700));
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
+}
+
+TEST_F(AutostartFolder, LeavesALinkAndWritesTheFileThatItNames) {
+    fs::create_directories(folder);
+    fs::create_symlink(temporary.path() / "entry", file);
+
+    EXPECT_FALSE(autostart.add(identifier, sorter));
+
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(contentOf(temporary.path() / "entry"), desktopEntryText(sorter));
 }
 
 TEST(UserFolders, AreWhatTheEnvironmentSays) {

@@ -1,8 +1,8 @@
 #include "xdg/DesktopEntry.h"
 
 #include "TemporaryFolder.h"
+#include "files/Draft.h"
 #include "xdg/ExecValue.h"
-#include "xdg/WholeFile.h"
 
 #include <gtest/gtest.h>
 
@@ -50,7 +50,7 @@ TEST_P(OddProgram, IsReadBackAsItWasWritten) {
 
 TEST_P(OddProgram, GivesAValidEntry) {
     const TemporaryFolder folder;
-    ASSERT_TRUE(writeWhole(folder.path() / "a.desktop", desktopEntryText({"Sorter", GetParam()})));
+    ASSERT_FALSE(files::writeWhole(folder.path() / "a.desktop", desktopEntryText({"Sorter", GetParam()})));
 
     const auto command = "desktop-file-validate " + (folder.path() / "a.desktop").string();
     EXPECT_EQ(std::system(command.c_str()), 0) << "the entry should be valid";

@@ -29,7 +29,7 @@ platform::URL embeddedApplication(const std::string& identifier) {
 /// Makes it a login item, and its job a recorded one: both or neither.
 bool enlist(const std::string& identifier, const std::string& executable) {
     const auto autostart = xdg::Autostart::ofUser();
-    if (!autostart.add(identifier, {platform::lastPathComponent(executable), executable}))
+    if (autostart.add(identifier, {platform::lastPathComponent(executable), executable}))
         return false;
     const bool recorded = jobRecord().add(identifier);
     if (!recorded)

@@ -6,7 +6,7 @@
 #include "appkit/stores/gnustep/DefaultsFolder.h"
 #include "appkit/stores/gnustep/DefaultsLock.h"
 #include "appkit/stores/gnustep/SettingAside.h"
-#include "xdg/WholeFile.h"
+#include "files/Draft.h"
 
 #include <filesystem>
 #include <string_view>
@@ -61,7 +61,7 @@ bool DomainFile::write(const Dictionary& contents) const {
         return removeFile(path());
     NSData* xml = xmlData(contents);
     const std::string_view bytes(static_cast<const char*>([xml bytes]), [xml length]);
-    return xdg::writeWhole(path(), bytes, xdg::Readers::owner);
+    return !files::writeWhole(path(), bytes);
 }
 
 } // namespace qbsp::appkit

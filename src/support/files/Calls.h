@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cerrno>
+#include <system_error>
+
+namespace files {
+
+/// Makes the system call again while a signal interrupts it, a hundred times at most: one that is interrupted
+/// for ever must not hold the caller for ever.
+template <class Call>
+auto uninterrupted(Call call) {
+    constexpr int tries = 100;
+    auto result = call();
+    for (int made = 1; made < tries && result < 0 && errno == EINTR; ++made)
+        result = call();
+    return result;
+}
+
+/// What the last system call failed with.
+[[nodiscard]] inline std::error_code lastError() {
+    return {errno, std::generic_category()};
+}
+
+/// No error for a call that returned 0; else what it failed with.
+[[nodiscard]] inline std::error_code errorOf(int result) {
+    return result == 0 ? std::error_code() : lastError();
+}
+
+} // namespace files

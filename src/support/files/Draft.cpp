@@ -1,0 +1,113 @@
+#include "files/Draft.h"
+
+#include "files/Calls.h"
+#include "files/Descriptor.h"
+#include "files/Folders.h"
+#include "files/Leftovers.h"
+#include "files/Reading.h"
+
+#include <cstdio>
+#include <fcntl.h>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace files {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr mode_t ownerAlone = S_IRUSR | S_IWUSR;
+
+std::string beginningOfDrafts(const fs::path& target) {
+    return "." + target.filename().string() + ".draft-";
+}
+
+std::error_code writeAll(const Descriptor& file, std::string_view content) {
+    while (!content.empty()) {
+        const auto count =
+            uninterrupted([&] { return write(file.number(), content.data(), content.size()); });
+        if (count < 0)
+            return lastError();
+        if (count == 0)
+            return make_error_code(std::errc::io_error);
+        content.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return {};
+}
+
+std::error_code setOwner(const Descriptor& file, const struct stat& wanted) {
+    struct stat status {};
+
+    if (fstat(file.number(), &status) != 0)
+        return lastError();
+    if (status.st_uid == wanted.st_uid && status.st_gid == wanted.st_gid)
+        return {};
+    return errorOf(fchown(file.number(), wanted.st_uid, wanted.st_gid));
+}
+
+/// Gives the file what the one that it replaces has.
+std::error_code admit(const Descriptor& file, const fs::path& replaced) {
+    struct stat status {};
+
+    if (stat(replaced.c_str(), &status) != 0)
+        return errno == ENOENT ? errorOf(fchmod(file.number(), ownerAlone)) : lastError();
+    if (const auto failure = setOwner(file, status))
+        return failure;
+    constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
+    return errorOf(fchmod(file.number(), status.st_mode & permissions));
+}
+
+std::error_code check(const fs::path& file, std::string_view content) {
+    const Reading reading = readWhole(file, content.size());
+    if (reading.error)
+        return reading.error;
+    const bool isSame = reading.outcome == Reading::Outcome::contents && reading.contents == content;
+    return isSame ? std::error_code() : make_error_code(std::errc::io_error);
+}
+
+} // namespace
+
+Draft::Draft(fs::path target)
+    : target_(std::move(target)), path_(passingName(target_.parent_path(), beginningOfDrafts(target_))) {
+    removeLeftovers(target_.parent_path().empty() ? "." : target_.parent_path(), beginningOfDrafts(target_));
+}
+
+Draft::~Draft() {
+    if (!placed_)
+        unlink(path_.c_str());
+}
+
+std::error_code Draft::write(std::string_view content) const {
+    {
+        const Descriptor file(path_, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, ownerAlone);
+        if (!file.isOpen())
+            return lastError();
+        if (const auto failure = writeAll(file, content))
+            return failure;
+        if (const auto failure = admit(file, target_))
+            return failure;
+        if (uninterrupted([&] { return fsync(file.number()); }) != 0)
+            return lastError();
+    }
+    return check(path_, content);
+}
+
+std::error_code Draft::place() {
+    if (rename(path_.c_str(), target_.c_str()) != 0)
+        return lastError();
+    placed_ = true;
+    return syncFolder(target_.parent_path());
+}
+
+std::error_code writeWhole(const fs::path& file, std::string_view content) {
+    if (const auto failure = makeFolders(file.parent_path()))
+        return failure;
+    Draft draft(whereLinksLead(file));
+    const auto failure = draft.write(content);
+    return failure ? failure : draft.place();
+}
+
+} // namespace files
