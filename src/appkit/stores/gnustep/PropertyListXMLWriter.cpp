@@ -1,11 +1,11 @@
-#include "appkit/stores/gnustep/PropertyListXML.h"
+#include "appkit/stores/gnustep/PropertyListFormats.h"
+#include "appkit/stores/gnustep/PropertyListText.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <concepts>
 #include <cstddef>
-#include <ctime>
 #include <string_view>
 #include <variant>
 
@@ -18,9 +18,6 @@ using platform::Dictionary;
 using platform::Value;
 
 namespace {
-
-constexpr std::time_t referenceDate =
-    978307200; // the first of January 2001, in seconds of the system's clock
 
 struct Escape {
     std::string_view text;
@@ -41,6 +38,11 @@ bool isXMLCharacter(char character) {
     return static_cast<unsigned char>(character) >= 0x20 || character == '\t' || character == '\n';
 }
 
+bool mayNeedEscape(char character) {
+    return !isXMLCharacter(character) ||
+           std::ranges::any_of(escapes, [&](const Escape& each) { return each.text.front() == character; });
+}
+
 std::string codeOf(char control) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     const auto code = static_cast<unsigned char>(control);
@@ -49,6 +51,11 @@ std::string codeOf(char control) {
 
 /// Moves the beginning of the text to the XML.
 void moveBeginning(std::string_view& text, std::string& xml) {
+    const auto plain = static_cast<std::size_t>(std::ranges::find_if(text, mayNeedEscape) - text.begin());
+    xml += text.substr(0, plain);
+    text.remove_prefix(plain);
+    if (text.empty())
+        return;
     const auto* escape =
         std::ranges::find_if(escapes, [&](const Escape& each) { return text.starts_with(each.text); });
     if (escape != escapes.end()) {
@@ -58,13 +65,6 @@ void moveBeginning(std::string_view& text, std::string& xml) {
     }
     xml += isXMLCharacter(text.front()) ? std::string(1, text.front()) : codeOf(text.front());
     text.remove_prefix(1);
-}
-
-std::string element(const std::string& name, std::string_view text) {
-    std::string xml = "<" + name + ">";
-    while (!text.empty())
-        moveBeginning(text, xml);
-    return xml + "</" + name + ">\n";
 }
 
 std::string base64(const Data& data) {
@@ -89,62 +89,68 @@ std::string shortest(double real) {
     return {digits.cbegin(), end};
 }
 
-std::string instant(const Date& date) {
-    const std::time_t seconds = referenceDate + static_cast<std::time_t>(date.secondsSinceReferenceDate);
-    std::tm parts{};
-    std::array<char, 32> text{};
-    gmtime_r(&seconds, &parts);
-    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &parts)};
-}
+/// Appends a value to the XML.
+class XMLWriter {
+public:
+    explicit XMLWriter(std::string& xml) : xml_(xml) {}
 
-std::string xmlOf(const Value& value);
+    void add(const Value& value) { std::visit(*this, value.kind()); }
 
-struct Writer {
-    std::string operator()(std::monostate) const { return {}; }
+    void operator()(std::monostate) {}
 
-    std::string operator()(bool flag) const { return flag ? "<true/>\n" : "<false/>\n"; }
+    void operator()(bool flag) { xml_ += flag ? "<true/>\n" : "<false/>\n"; }
 
-    std::string operator()(double real) const { return element("real", shortest(real)); }
+    void operator()(double real) { addLeaf("real", shortest(real)); }
 
-    std::string operator()(const std::string& text) const { return element("string", text); }
+    void operator()(const std::string& text) { addLeaf("string", text); }
 
-    std::string operator()(const Date& date) const { return element("date", instant(date)); }
+    void operator()(const Date& date) { addLeaf("date", textOfDate(date).value_or("")); }
 
-    std::string operator()(const Data& data) const { return element("data", base64(data)); }
+    void operator()(const Data& data) { addLeaf("data", base64(data)); }
 
     template <std::integral Integer>
-    std::string operator()(Integer integer) const {
-        return element("integer", std::to_string(integer));
+    void operator()(Integer integer) {
+        addLeaf("integer", std::to_string(integer));
     }
 
-    std::string operator()(const Array& array) const {
-        std::string xml = "<array>\n";
+    void operator()(const Array& array) {
+        xml_ += "<array>\n";
         for (const Value& each : array)
-            xml += xmlOf(each);
-        return xml + "</array>\n";
+            add(each);
+        xml_ += "</array>\n";
     }
 
-    std::string operator()(const Dictionary& dictionary) const {
-        std::string xml = "<dict>\n";
-        for (const auto& [key, each] : dictionary)
-            if (each.exists())
-                xml += element("key", key) + xmlOf(each);
-        return xml + "</dict>\n";
+    void operator()(const Dictionary& dictionary) {
+        xml_ += "<dict>\n";
+        for (const auto& [key, each] : dictionary) {
+            if (!each.exists())
+                continue;
+            addLeaf("key", key);
+            add(each);
+        }
+        xml_ += "</dict>\n";
     }
+
+private:
+    void addLeaf(std::string_view name, std::string_view text) {
+        xml_.append("<").append(name).append(">");
+        while (!text.empty())
+            moveBeginning(text, xml_);
+        xml_.append("</").append(name).append(">\n");
+    }
+
+    std::string& xml_;
 };
-
-std::string xmlOf(const Value& value) {
-    return std::visit(Writer{}, value.kind());
-}
 
 } // namespace
 
-std::string propertyListXML(const Value& value) {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-           "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
-           "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
-           "<plist version=\"1.0\">\n" +
-           xmlOf(value) + "</plist>\n";
+std::string xmlBytes(const Value& value) {
+    std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                      "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+                      "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n"
+                      "<plist version=\"1.0\">\n";
+    XMLWriter(xml).add(value);
+    return xml += "</plist>\n";
 }
 
 } // namespace qbsp::appkit

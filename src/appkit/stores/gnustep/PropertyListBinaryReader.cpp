@@ -1,0 +1,252 @@
+#include "appkit/stores/gnustep/PropertyListFormats.h"
+#include "appkit/stores/gnustep/PropertyListText.h"
+
+#include <bit>
+#include <limits>
+#include <optional>
+
+namespace qbsp::appkit {
+
+using platform::Array;
+using platform::Data;
+using platform::Date;
+using platform::Dictionary;
+using platform::Value;
+
+namespace {
+
+constexpr std::size_t trailerSize = 32;
+
+/// An object may be named many times, and is a value of its own each time: a few bytes can stand for any
+/// number of them. This much memory, in bytes, is all that a list may come to.
+constexpr std::size_t largestList = std::size_t{64} << 20U;
+
+constexpr std::size_t sizeOfValue = sizeof(Value) + 64; // with its place in a container
+
+enum Kind : unsigned {
+    single = 0,
+    integer = 1,
+    real = 2,
+    date = 3,
+    data = 4,
+    ascii = 5,
+    utf16 = 6,
+    array = 10,
+    dictionary = 13
+};
+
+/// Reads a list in the binary format. Offsets and counts are held against the bytes that there are before
+/// they are used.
+class BinaryReader {
+public:
+    explicit BinaryReader(std::string_view bytes) : bytes_(bytes) {}
+
+    Parsed read() {
+        const auto root = readTrailer();
+        const Value value = root ? readObject(*root, 0) : Value();
+        if (fault_)
+            return *fault_;
+        return value.exists() ? Parsed(value) : Parsed(Fault::notAPropertyList);
+    }
+
+private:
+    /// The number of the root; the table of the objects is known then.
+    std::optional<std::size_t> readTrailer() {
+        if (bytes_.size() < binaryBeginning.size() + trailerSize)
+            return std::nullopt;
+        const std::size_t trailer = bytes_.size() - trailerSize;
+        offsetSize_ = *number(trailer + 6, 1);
+        referenceSize_ = *number(trailer + 7, 1);
+        const std::size_t root = *number(trailer + 16, 8);
+        objects_ = *number(trailer + 8, 8);
+        table_ = *number(trailer + 24, 8);
+        const bool areSizes = offsetSize_ - 1 < 8 && referenceSize_ - 1 < 8;
+        const bool fits = areSizes && table_ <= trailer && objects_ <= (trailer - table_) / offsetSize_;
+        return fits ? std::optional(root) : std::nullopt;
+    }
+
+    /// Big-endian; none beyond the end, or when it has more than 8 bytes.
+    [[nodiscard]] std::optional<std::uint64_t> number(std::size_t place, std::size_t size) const {
+        const auto bytes = part(place, size);
+        if (!bytes || size > 8)
+            return std::nullopt;
+        std::uint64_t value = 0;
+        for (const char byte : *bytes)
+            value = value << 8U | static_cast<unsigned char>(byte);
+        return value;
+    }
+
+    [[nodiscard]] std::optional<std::string_view> part(std::size_t place, std::size_t size) const {
+        const bool fits = place <= bytes_.size() && size <= bytes_.size() - place;
+        return fits ? std::optional(bytes_.substr(place, size)) : std::nullopt;
+    }
+
+    /// No value when the object is none, or a part of it.
+    Value readObject(std::size_t object, std::size_t depth) {
+        const auto place =
+            object < objects_ ? number(table_ + object * offsetSize_, offsetSize_) : std::nullopt;
+        const auto mark = place ? number(*place, 1) : std::nullopt;
+        if (!mark || !spend(sizeOfValue))
+            return {};
+        const auto kind = static_cast<unsigned>(*mark >> 4U);
+        const auto low = static_cast<unsigned>(*mark & 0xFU);
+        return isFixed(kind) ? readFixed(kind, low, *place + 1) : readCounted(kind, low, *place + 1, depth);
+    }
+
+    static bool isFixed(unsigned kind) { return kind <= Kind::date; }
+
+    [[nodiscard]] Value readFixed(unsigned kind, unsigned low, std::size_t place) const {
+        constexpr unsigned no = 8;
+        constexpr unsigned yes = 9;
+        if (kind == Kind::single)
+            return low == yes ? Value(true) : low == no ? Value(false) : Value();
+        const std::size_t size = std::size_t{1} << low;
+        if (kind == Kind::integer)
+            return size == 16 ? readWideInteger(place) : readInteger(place, size);
+        const auto bits = number(place, size);
+        if (!bits || size < 4 || (kind == Kind::date && size != 8))
+            return {};
+        const double value =
+            size == 8 ? std::bit_cast<double>(*bits)
+                      : static_cast<double>(std::bit_cast<float>(static_cast<std::uint32_t>(*bits)));
+        return kind == Kind::date ? Value(Date{value}) : Value(value);
+    }
+
+    // Integers of 8 bytes have a sign, narrower ones have none.
+    [[nodiscard]] Value readInteger(std::size_t place, std::size_t size) const {
+        const auto value = number(place, size);
+        return value ? narrowestInteger(static_cast<std::int64_t>(*value)) : Value();
+    }
+
+    [[nodiscard]] Value readWideInteger(std::size_t place) const {
+        const auto high = number(place, 8);
+        const auto low = number(place + 8, 8);
+        if (!high || !low)
+            return {};
+        const auto negative = static_cast<std::int64_t>(*low);
+        if (*high == std::numeric_limits<std::uint64_t>::max() && negative < 0)
+            return narrowestInteger(negative);
+        return *high == 0 ? narrowestInteger(*low) : Value();
+    }
+
+    /// What has a count, which stands after the mark when it is 15 or more.
+    Value readCounted(unsigned kind, unsigned low, std::size_t place, std::size_t depth) {
+        constexpr unsigned countFollows = 15;
+        std::optional<std::uint64_t> count = low;
+        if (low == countFollows) {
+            const auto mark = number(place, 1);
+            const bool isInteger = mark && *mark >> 4U == Kind::integer && (*mark & 0xFU) <= 3;
+            const std::size_t size = isInteger ? std::size_t{1} << (*mark & 0xFU) : 0;
+            count = isInteger ? number(place + 1, size) : std::nullopt;
+            place += 1 + size;
+        }
+        if (!count || *count > bytes_.size())
+            return {};
+        return kind < Kind::array ? readBytes(kind, place, *count)
+                                  : readContainer(kind, place, *count, depth + 1);
+    }
+
+    Value readBytes(unsigned kind, std::size_t place, std::size_t count) {
+        const auto bytes = part(place, kind == Kind::utf16 ? 2 * count : count);
+        if (!bytes || !spend(bytes->size()))
+            return {};
+        switch (kind) {
+        case Kind::data: {
+            const auto* first = reinterpret_cast<const std::byte*>(bytes->data());
+            return Data(first, first + bytes->size());
+        }
+        case Kind::ascii:
+            return textOf(*bytes, 1);
+        case Kind::utf16:
+            return textOf(*bytes, 2);
+        default:
+            return {};
+        }
+    }
+
+    /// The characters of that many bytes each; no value when one is only half of one.
+    static Value textOf(std::string_view bytes, std::size_t width) {
+        std::string text;
+        const auto unit = [&](std::size_t place) {
+            std::uint32_t code = 0;
+            for (std::size_t index = place; index < place + width; ++index)
+                code = code << 8U | static_cast<unsigned char>(index < bytes.size() ? bytes[index] : 0);
+            return code;
+        };
+        for (std::size_t place = 0; place < bytes.size(); place += width) {
+            std::uint32_t code = unit(place);
+            if (isFirstHalf(code) && isSecondHalf(unit(place + width))) {
+                place += width;
+                code = joinedHalves(code, unit(place));
+            }
+            if (!appendCharacter(code, text))
+                return {};
+        }
+        return text;
+    }
+
+    Value readContainer(unsigned kind, std::size_t place, std::size_t count, std::size_t depth) {
+        if (depth > deepestNesting)
+            return refuse(Fault::nestedTooDeeply);
+        if (kind == Kind::array)
+            return readArray(place, count, depth);
+        return kind == Kind::dictionary ? readDictionary(place, count, depth) : Value();
+    }
+
+    Value readArray(std::size_t place, std::size_t count, std::size_t depth) {
+        Array elements;
+        for (std::size_t index = 0; index < count; ++index) {
+            elements.push_back(readReference(place, index, depth));
+            if (!elements.back().exists())
+                return {};
+        }
+        return elements;
+    }
+
+    Value readDictionary(std::size_t place, std::size_t count, std::size_t depth) {
+        Dictionary entries;
+        for (std::size_t index = 0; index < count; ++index) {
+            const Value key = readReference(place, index, depth);
+            Value value = readReference(place, count + index, depth);
+            if (key.as<std::string>() == nullptr || !value.exists())
+                return {};
+            entries.insert_or_assign(*key.as<std::string>(), std::move(value));
+        }
+        return entries;
+    }
+
+    Value readReference(std::size_t place, std::size_t index, std::size_t depth) {
+        const auto object = number(place + index * referenceSize_, referenceSize_);
+        return object ? readObject(*object, depth) : Value();
+    }
+
+    /// Counts memory that the list needs; false when it would be too much.
+    bool spend(std::size_t size) {
+        if (size > largestList - spent_)
+            return refuse(Fault::tooLarge).exists();
+        spent_ += size;
+        return true;
+    }
+
+    Value refuse(Fault fault) {
+        if (!fault_)
+            fault_ = fault;
+        return {};
+    }
+
+    std::string_view bytes_;
+    std::size_t offsetSize_ = 0;
+    std::size_t referenceSize_ = 0;
+    std::size_t objects_ = 0;
+    std::size_t table_ = 0;
+    std::size_t spent_ = 0;
+    std::optional<Fault> fault_;
+};
+
+} // namespace
+
+Parsed parsedBinary(std::string_view bytes) {
+    return BinaryReader(bytes).read();
+}
+
+} // namespace qbsp::appkit
