@@ -1,11 +1,11 @@
 #import "appkit/plugin/QBSPVisibilityBinding.h"
 
-#include "appkit/stores/StandardDefaults.h"
+#include "appkit/stores/UserDefaults.h"
 
 #include <tuple>
 
 // The pane gives it its first value, but its name is not among what the pane offers to a view.
-static NSString* const invisibleKey = @"SorterTabIsInvisible";
+static constexpr qbsp::platform::DefaultsKey invisibleKey{"SorterTabIsInvisible"};
 
 @implementation QBSPVisibilityBinding
 
@@ -25,15 +25,15 @@ static NSString* const invisibleKey = @"SorterTabIsInvisible";
 }
 
 - (void)refresh {
-    const BOOL invisible = [[NSUserDefaults standardUserDefaults] boolForKey:invisibleKey];
+    const bool invisible = qbsp::appkit::AppKitUserDefaults().objectForKey(invisibleKey).boolValue();
     [checkBox setState:invisible ? NSOffState : NSOnState];
 }
 
 - (void)store:(id)sender {
-    NSNumber* invisible = [NSNumber numberWithBool:[checkBox state] != NSOnState];
-    qbsp::appkit::setStandardDefault(invisible, invisibleKey);
-    // What could not be written stays set, and the next flush carries it.
-    std::ignore = qbsp::appkit::flushStandardDefaults();
+    qbsp::appkit::AppKitUserDefaults userDefaults;
+    userDefaults.setBoolForKey([checkBox state] != NSOnState, invisibleKey);
+    // What could not be saved stays set, and the next flush carries it.
+    std::ignore = userDefaults.synchronize();
 }
 
 @end

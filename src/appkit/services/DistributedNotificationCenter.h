@@ -6,7 +6,8 @@
 namespace qbsp::appkit {
 
 /// The default distributed notification centre. A post that fails because the centre's daemon died is made
-/// once more, which starts the daemon anew; if that fails too, it is logged.
+/// once more, which starts the daemon anew; if that fails too, it is logged. What is posted while something
+/// waits to be saved is posted again once that was saved.
 class AppKitDistributedNotificationCenter final : public platform::DistributedNotificationCenter {
 public:
     /// The log must outlive this.

@@ -2,24 +2,50 @@
 
 #include "appkit/bridge/PropertyListConversion.h"
 #include "appkit/bridge/Strings.h"
+#include "appkit/services/HostProcess.h"
+#include "appkit/stores/OnceSaved.h"
 #include "objc/GSTry.h"
 
 namespace qbsp::appkit {
 
+namespace {
+
+/// What is posted, kept for as long as it may be posted again.
+struct Notice {
+    std::string name;
+    std::string object;
+    std::optional<platform::Dictionary> userInfo;
+    bool immediately;
+
+    void post(platform::Log& log) const {
+        const auto send = [&] {
+            [[NSDistributedNotificationCenter defaultCenter]
+                postNotificationName:nsString(name)
+                              object:nsString(object)
+                            userInfo:objectFromDictionary(userInfo)
+                  deliverImmediately:immediately ? YES : NO];
+        };
+        if (objc::tryObjC(send) == nil)
+            return;
+        if (NSException* failure = objc::tryObjC(send))
+            log.log("ERROR: " + name + " could not be posted: " + utf8([failure reason]));
+    }
+};
+
+} // namespace
+
 void AppKitDistributedNotificationCenter::postNotificationName(
     platform::NotificationName name, const std::string& object,
     const std::optional<platform::Dictionary>& userInfo, platform::NotificationOptions options) {
-    const auto post = [&] {
-        const bool immediately = options == platform::NotificationOptions::deliverImmediately;
-        [[NSDistributedNotificationCenter defaultCenter] postNotificationName:nsString(name.text)
-                                                                       object:nsString(object)
-                                                                     userInfo:objectFromDictionary(userInfo)
-                                                           deliverImmediately:immediately ? YES : NO];
-    };
-    if (objc::tryObjC(post) == nil)
-        return;
-    if (NSException* failure = objc::tryObjC(post))
-        log_.log("ERROR: " + std::string(name.text) + " could not be posted: " + utf8([failure reason]));
+    const Notice notice{std::string(name.text), object, userInfo,
+                        options == platform::NotificationOptions::deliverImmediately};
+    notice.post(log_);
+    // Who reads the stores now finds the old values when the new ones could not be saved, and is told again
+    // then.
+    onceSaved(notice.name, [notice] {
+        AppKitLog log; // the pane, and its log, may have gone by then
+        notice.post(log);
+    });
 }
 
 } // namespace qbsp::appkit

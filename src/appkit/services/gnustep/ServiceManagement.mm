@@ -8,7 +8,9 @@
 
 #import <Foundation/Foundation.h>
 
+#include <filesystem>
 #include <string>
+#include <system_error>
 #include <tuple>
 
 namespace qbsp::appkit {
@@ -16,8 +18,7 @@ namespace qbsp::appkit {
 namespace {
 
 JobRecord jobRecord() {
-    return JobRecord(
-        platform::URL::fileURLWithPath(xdg::dataHome() / "com.quarrybook.SorterPane" / "LoginItems.plist"));
+    return JobRecord(xdg::dataHome() / "com.quarrybook.SorterPane" / "LoginItems.plist");
 }
 
 platform::URL embeddedApplication(const std::string& identifier) {
@@ -26,15 +27,33 @@ platform::URL embeddedApplication(const std::string& identifier) {
         .appendingPathComponent(identifier + ".app");
 }
 
+/// Tells of an entry that could not be changed; true when it was.
+bool changed(const std::filesystem::path& entry, std::error_code failure) {
+    if (failure)
+        NSLog(@"ERROR: %@: could not be written: %@; it is left as it is", nsString(entry.string()),
+              nsString(failure.message()));
+    return !failure;
+}
+
+bool add(const std::string& identifier, const std::string& executable) {
+    const auto autostart = xdg::Autostart::ofUser();
+    return changed(autostart.file(identifier),
+                   autostart.add(identifier, {platform::lastPathComponent(executable), executable}));
+}
+
+bool remove(const std::string& identifier) {
+    const auto autostart = xdg::Autostart::ofUser();
+    return changed(autostart.file(identifier), autostart.remove(identifier));
+}
+
 /// Makes it a login item, and its job a recorded one: both or neither.
 bool enlist(const std::string& identifier, const std::string& executable) {
-    const auto autostart = xdg::Autostart::ofUser();
-    if (autostart.add(identifier, {platform::lastPathComponent(executable), executable}))
+    if (!add(identifier, executable))
         return false;
     const bool recorded = jobRecord().add(identifier);
     if (!recorded)
         // It must not start at login while no job tells of it; when even that fails, the entry stays.
-        std::ignore = autostart.remove(identifier);
+        std::ignore = remove(identifier);
     return recorded;
 }
 
@@ -50,7 +69,7 @@ void switchOn(const std::string& identifier) {
 
 void switchOff(const std::string& identifier) {
     // What cannot be taken back goes on being listed; the application is stopped nevertheless.
-    std::ignore = xdg::Autostart::ofUser().remove(identifier);
+    std::ignore = remove(identifier);
     std::ignore = jobRecord().remove(identifier);
     processes::askApplicationsToQuit(identifier);
 }

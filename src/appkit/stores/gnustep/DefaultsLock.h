@@ -1,26 +1,67 @@
 #pragma once
 
-#include "appkit/bridge/Retained.h"
+#include <chrono>
+#include <filesystem>
+#include <string>
+#include <sys/types.h>
 
 namespace qbsp::appkit {
 
-/// The lock that every process takes to write files of the user's defaults, for as long as this exists.
+/// How long one may wait for others: so much in all, and as much again after a pause in which nobody waited.
+/// What an operation does in several steps is held together by it.
+class Patience {
+public:
+    using Duration = std::chrono::milliseconds;
+
+    explicit Patience(Duration most, Duration pause = std::chrono::seconds(10))
+        : most_(most), pause_(pause) {}
+
+    /// What is left of it now.
+    [[nodiscard]] Duration left();
+
+    /// It was waited for that long.
+    void spend(Duration waited);
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    Duration most_;
+    Duration pause_;
+    Duration spent_{0};
+    Clock::time_point lastWait_;
+};
+
+/// The lock that every GNUstep process of the user takes to write files of the user's defaults, for as long
+/// as this exists: a folder below theirs that only one process can make. Ours say in it who took them.
 class DefaultsLock {
 public:
-    /// Waits for the lock, unless it can never be taken. One that a dead process left behind is broken as
-    /// soon as it counts as stale.
-    DefaultsLock();
+    /// Where the lock of the files in that folder lies.
+    [[nodiscard]] static std::filesystem::path placeIn(const std::filesystem::path& defaultsFolder);
+
+    /// Takes the lock; waits for it as long as there is patience, unless it can never be taken. One whose
+    /// owner has ended, or that nobody can still be holding by its date, is removed.
+    DefaultsLock(const std::filesystem::path& defaultsFolder, Patience& patience);
     ~DefaultsLock();
     DefaultsLock(const DefaultsLock&) = delete;
     DefaultsLock& operator=(const DefaultsLock&) = delete;
 
     [[nodiscard]] bool isHeld() const { return held_; }
 
-private:
-    [[nodiscard]] bool acquire() const;
+    /// Why it is not held, in words that follow "the lock ".
+    [[nodiscard]] const std::string& obstacle() const { return obstacle_; }
 
-    Retained<NSDistributedLock*> lock_;
-    bool held_;
+    /// Whether a stale lock was removed.
+    [[nodiscard]] bool removedStale() const { return removedStale_; }
+
+private:
+    void take(Patience& patience);
+    [[nodiscard]] bool mayTryAgain(Patience& patience);
+
+    std::filesystem::path place_;
+    ino_t made_ = 0; ///< tells the lock that this made from others
+    std::string obstacle_;
+    bool held_ = false;
+    bool removedStale_ = false;
 };
 
 } // namespace qbsp::appkit

@@ -1,20 +1,19 @@
 #pragma once
 
-#include "appkit/stores/PropertyLists.h"
-#include "platform/URL.h"
 #include "platform/Value.h"
 
+#include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace qbsp::appkit {
 
 /// The pane's own record of the embedded applications that were switched on, in the form of launchd's jobs. A
-/// file that is no property list counts as a record of none, and is kept under another name when one is
-/// written.
+/// file that cannot be read counts as a record of none.
 class JobRecord {
 public:
-    explicit JobRecord(platform::URL file) : file_(std::move(file)) {}
+    explicit JobRecord(std::filesystem::path file) : file_(std::move(file)) {}
 
     [[nodiscard]] std::vector<platform::Dictionary> jobs() const;
 
@@ -28,8 +27,7 @@ private:
     [[nodiscard]] std::vector<platform::Dictionary> jobsExcept(const std::string& label) const;
     [[nodiscard]] bool write(const std::vector<platform::Dictionary>& jobs);
 
-    platform::URL file_;
-    AppKitPropertyLists propertyLists_;
+    std::filesystem::path file_;
 };
 
 /// The label of a job; empty when it has none.

@@ -1,9 +1,6 @@
 #include "appkit/stores/gnustep/JobRecord.h"
 
-#include "appkit/stores/gnustep/SettingAside.h"
-
-#include <filesystem>
-#include <system_error>
+#include "appkit/stores/gnustep/Saving.h"
 
 namespace qbsp::appkit {
 
@@ -16,8 +13,7 @@ constexpr auto onDemandKey = "OnDemand";
 } // namespace
 
 std::vector<platform::Dictionary> JobRecord::jobs() const {
-    const auto record = propertyLists_.dictionaryWithContentsOfFile(file_.path());
-    const auto stored = platform::entry(record.value_or(platform::Dictionary()), jobsKey);
+    const auto stored = platform::entry(storedLists().contents(file_), jobsKey);
     std::vector<platform::Dictionary> jobs;
     if (const auto* array = stored.as<platform::Array>())
         for (const auto& each : *array)
@@ -43,11 +39,8 @@ std::vector<platform::Dictionary> JobRecord::jobsExcept(const std::string& label
 }
 
 bool JobRecord::write(const std::vector<platform::Dictionary>& jobs) {
-    std::error_code failure;
-    std::filesystem::create_directories(platform::deletingLastPathComponent(file_.path()), failure);
-    const platform::Array array(jobs.begin(), jobs.end());
-    return setAsideUnlessDictionary(file_.path()) &&
-           propertyLists_.writeToURL({{jobsKey, array}}, file_, platform::Atomically::yes);
+    storedLists().set(file_, jobsKey, platform::Array(jobs.begin(), jobs.end()));
+    return saveOrForget(file_);
 }
 
 std::string labelOf(const platform::Dictionary& job) {

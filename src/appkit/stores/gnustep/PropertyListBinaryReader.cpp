@@ -132,18 +132,23 @@ private:
     /// What has a count, which stands after the mark when it is 15 or more.
     Value readCounted(unsigned kind, unsigned low, std::size_t place, std::size_t depth) {
         constexpr unsigned countFollows = 15;
-        std::optional<std::uint64_t> count = low;
+        std::uint64_t count = low;
         if (low == countFollows) {
-            const auto mark = number(place, 1);
-            const bool isInteger = mark && *mark >> 4U == Kind::integer && (*mark & 0xFU) <= 3;
-            const std::size_t size = isInteger ? std::size_t{1} << (*mark & 0xFU) : 0;
-            count = isInteger ? number(place + 1, size) : std::nullopt;
+            const std::size_t size = sizeOfCount(place);
+            count = number(place + 1, size).value_or(bytes_.size() + 1);
             place += 1 + size;
         }
-        if (!count || *count > bytes_.size())
+        if (count > bytes_.size())
             return {};
-        return kind < Kind::array ? readBytes(kind, place, *count)
-                                  : readContainer(kind, place, *count, depth + 1);
+        return kind < Kind::array ? readBytes(kind, place, count)
+                                  : readContainer(kind, place, count, depth + 1);
+    }
+
+    /// More bytes than a number has, where the mark of an integer is missing.
+    [[nodiscard]] std::size_t sizeOfCount(std::size_t place) const {
+        const std::uint64_t mark = number(place, 1).value_or(0);
+        const bool isInteger = mark >> 4U == Kind::integer && (mark & 0xFU) <= 3;
+        return isInteger ? std::size_t{1} << (mark & 0xFU) : bytes_.size();
     }
 
     Value readBytes(unsigned kind, std::size_t place, std::size_t count) {

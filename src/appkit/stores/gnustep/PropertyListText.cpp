@@ -218,8 +218,9 @@ Value dataFrom(std::string_view text) {
 }
 
 int hexadecimalDigit(char character) {
-    const auto value = numberFrom<int>(std::string_view(&character, 1), 16);
-    return value.value_or(-1);
+    constexpr std::string_view digits = "0123456789abcdef0123456789ABCDEF";
+    const auto place = digits.find(character);
+    return place == std::string_view::npos ? -1 : static_cast<int>(place % 16);
 }
 
 bool isFirstHalf(std::uint32_t code) {

@@ -1,91 +1,105 @@
-#include "appkit/stores/StandardDefaults.h"
+#include "appkit/stores/gnustep/StandardDefaults.h"
 
 #include "appkit/bridge/PropertyListConversion.h"
-#include "appkit/bridge/Retained.h"
 #include "appkit/bridge/Strings.h"
-#include "appkit/stores/gnustep/DefaultsFolder.h"
-#include "appkit/stores/gnustep/DomainFile.h"
+#include "appkit/stores/gnustep/Saving.h"
+#include "objc/GSTry.h"
 
-#include <set>
-#include <string>
-#include <tuple>
+#import <Foundation/Foundation.h>
+#include <objc/runtime.h>
+
+#include <array>
+#include <filesystem>
+#include <system_error>
 
 namespace qbsp::appkit {
 
-using platform::Dictionary;
-
 namespace {
 
-/// The keys that were set since they were last seen in the file.
-std::set<std::string>& unflushedKeys() {
-    static std::set<std::string> keys;
-    return keys;
-}
+// A volatile domain of its own, before the host's. What is set in the host's domain itself would be written
+// by GNUstep, which changes other keys: it clips wide integers, rounds reals, and writes characters such as
+// emoji as escapes.
+NSString* const shownDomain = @"com.quarrybook.SorterPane.unsaved";
 
 NSString* hostDomain() {
     return [[NSProcessInfo processInfo] processName];
 }
 
-DomainFile hostFile() {
-    return DomainFile(utf8(hostDomain()));
+std::filesystem::path defaultsFolder() {
+    return hostFile().parent_path();
 }
 
-id valueInHostDomain(const std::string& key) {
-    NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
-    return [[defaults persistentDomainForName:hostDomain()] objectForKey:nsString(key)];
+void searchShownDomain(NSUserDefaults* defaults) {
+    NSMutableArray* list = [[[defaults searchList] mutableCopy] autorelease];
+    const NSUInteger host = [list indexOfObject:hostDomain()];
+    if ([list containsObject:shownDomain] || host == NSNotFound)
+        return;
+    [list insertObject:shownDomain atIndex:host];
+    [defaults setSearchList:list];
 }
 
-/// The values of these keys as they come back from a file.
-Dictionary asStored(const std::set<std::string>& keys) {
-    NSMutableDictionary* values = [NSMutableDictionary dictionary];
-    for (const std::string& key : keys)
-        if (id value = valueInHostDomain(key))
-            [values setObject:value forKey:nsString(key)];
-    NSData* xml = [NSPropertyListSerialization dataWithPropertyList:values
-                                                             format:NSPropertyListXMLFormat_v1_0
-                                                            options:0
-                                                              error:nullptr];
-    id stored = [NSPropertyListSerialization propertyListWithData:xml
-                                                          options:NSPropertyListImmutable
-                                                           format:nullptr
-                                                            error:nullptr];
-    return dictionaryFromObject(stored).value_or(Dictionary());
+bool canBeRead(const std::filesystem::path& file) {
+    const auto state = readListFile(file, largestStore).state;
+    return state == ListFile::State::absent || state == ListFile::State::read;
 }
 
-void forgetKeysInFile() {
-    const Dictionary wanted = asStored(unflushedKeys());
-    const Dictionary stored = hostFile().contents();
-    std::erase_if(unflushedKeys(), [&](const std::string& key) {
-        return platform::entry(stored, key) == platform::entry(wanted, key);
-    });
+/// GNUstep takes what it cannot read for empty, and calls itself for each level of nesting. It reads the two
+/// files again when their folder has changed.
+bool filesCanBeRead() {
+    static std::filesystem::file_time_type looked;
+    std::error_code failure;
+    const auto changed = std::filesystem::last_write_time(defaultsFolder(), failure);
+    if (!failure && changed == looked)
+        return true;
+    const bool canBe = canBeRead(hostFile()) && canBeRead(storedLists().fileOfDomain(utf8(NSGlobalDomain)));
+    if (canBe)
+        looked = changed;
+    return canBe;
 }
 
-// A value that is set once more is no change, and would not be written.
-void setAnew(const std::string& key) {
-    const Retained<id> value(valueInHostDomain(key));
-    [[NSUserDefaults standardUserDefaults] removeObjectForKey:nsString(key)];
-    [[NSUserDefaults standardUserDefaults] setObject:value.get() forKey:nsString(key)];
+bool lockCanBeTaken() {
+    Patience none{Patience::Duration(0)};
+    return DefaultsLock(defaultsFolder(), none).isHeld();
+}
+
+using Synchronize = BOOL (*)(id, SEL);
+using AnyFunction = void (*)(); // between types of functions that the compiler takes for incompatible
+Synchronize gnustepsOwn = nullptr;
+
+BOOL synchronizeUnlessItWouldWait(id defaults, SEL selector) {
+    return filesCanBeRead() && lockCanBeTaken() && gnustepsOwn(defaults, selector);
 }
 
 } // namespace
 
-void setStandardDefault(id value, NSString* key) {
-    unflushedKeys().insert(utf8(key));
-    // GNUstep writes changes of its own accord too, and takes what it cannot read for empty.
-    std::ignore = hostFile().setAsideIfUnreadable();
-    [[NSUserDefaults standardUserDefaults] setObject:value forKey:key];
+void boundStandardDefaults() {
+    if (gnustepsOwn != nullptr)
+        return;
+    // GNUstep waits 66 seconds for a lock, and again for the next file. It does so every half minute, and at
+    // the end.
+    Method method = class_getInstanceMethod([NSUserDefaults class], @selector(synchronize));
+    gnustepsOwn =
+        reinterpret_cast<Synchronize>(reinterpret_cast<AnyFunction>(method_getImplementation(method)));
+    method_setImplementation(
+        method, reinterpret_cast<IMP>(reinterpret_cast<AnyFunction>(synchronizeUnlessItWouldWait)));
 }
 
-bool flushStandardDefaults() {
+void showInStandardDefaults(const std::string& key, const platform::Value& value) {
     NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
-    // GNUstep would wait for a lock that it cannot take.
-    if (lockFolder() == nil || !hostFile().setAsideIfUnreadable() || ![defaults synchronize])
-        return false;
-    forgetKeysInFile();
-    // A flush also counts as a success where the file could not be written, and would not be made again.
-    for (const std::string& key : unflushedKeys())
-        setAnew(key);
-    return unflushedKeys().empty();
+    searchShownDomain(defaults);
+    NSMutableDictionary* shown =
+        [NSMutableDictionary dictionaryWithDictionary:[defaults volatileDomainForName:shownDomain]];
+    [shown setValue:objectFromValue(value) forKey:nsString(key)];
+    [defaults removeVolatileDomainForName:shownDomain]; // one of that name may not be set
+    [defaults setVolatileDomain:shown forName:shownDomain];
+}
+
+void bringStandardDefaultsUpToDate() {
+    NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
+    BOOL done = NO;
+    const auto synchronize = [&] { done = [defaults synchronize]; };
+    if (objc::tryObjC(synchronize) == nil && done && !storedLists().waits(hostFile()))
+        [defaults removeVolatileDomainForName:shownDomain];
 }
 
 } // namespace qbsp::appkit

@@ -1,5 +1,7 @@
 #include "stages/StoresStage.h"
 
+#include "appkit/bridge/PropertyListConversion.h"
+#include "appkit/bridge/Strings.h"
 #include "appkit/stores/Preferences.h"
 #include "appkit/stores/PropertyLists.h"
 #include "appkit/stores/UserDefaults.h"
@@ -52,6 +54,8 @@ NSString* hostDomain() {
 class AppKitStage final : public StoresStage {
   public:
     ~AppKitStage() override {
+        // What a test only set would otherwise be saved during the next.
+        EXPECT_TRUE(userDefaults_.synchronize());
         [[NSUserDefaults standardUserDefaults] removePersistentDomainForName:hostDomain()];
         [[NSUserDefaults standardUserDefaults] synchronize];
         for (const auto& file : fs::directory_iterator(folder()))
@@ -67,8 +71,13 @@ class AppKitStage final : public StoresStage {
                           const platform::Value& value) override {
         Dictionary contents = domainSeenByOthers(domain);
         contents[key] = value;
-        const auto file = platform::URL::fileURLWithPath(fileOf(domain));
-        EXPECT_TRUE(appkit::AppKitPropertyLists().writeToURL(contents, file, platform::Atomically::yes));
+        // Not by the adapter, which has what waits for the file in this process.
+        NSData* data =
+            [NSPropertyListSerialization dataWithPropertyList:appkit::objectFromDictionary(contents)
+                                                       format:NSPropertyListXMLFormat_v1_0
+                                                      options:0
+                                                        error:nullptr];
+        EXPECT_TRUE([data writeToFile:appkit::nsString(fileOf(domain)) atomically:YES]);
     }
 
     void otherProcessSetsDefault(const std::string& key, const platform::Value& value) override {

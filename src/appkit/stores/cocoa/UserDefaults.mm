@@ -2,7 +2,6 @@
 
 #include "appkit/bridge/PropertyListConversion.h"
 #include "appkit/bridge/Strings.h"
-#include "appkit/stores/StandardDefaults.h"
 
 namespace qbsp::appkit {
 
@@ -11,15 +10,15 @@ platform::Value AppKitUserDefaults::objectForKey(platform::DefaultsKey key) cons
 }
 
 void AppKitUserDefaults::setBoolForKey(bool value, platform::DefaultsKey key) {
-    setStandardDefault([NSNumber numberWithBool:value ? YES : NO], nsString(key.text));
+    [[NSUserDefaults standardUserDefaults] setBool:value ? YES : NO forKey:nsString(key.text)];
 }
 
 void AppKitUserDefaults::setObjectForKey(const platform::Value& value, platform::DefaultsKey key) {
-    setStandardDefault(objectFromValue(value), nsString(key.text));
+    [[NSUserDefaults standardUserDefaults] setObject:objectFromValue(value) forKey:nsString(key.text)];
 }
 
 bool AppKitUserDefaults::synchronize() {
-    return flushStandardDefaults();
+    return [[NSUserDefaults standardUserDefaults] synchronize];
 }
 
 } // namespace qbsp::appkit

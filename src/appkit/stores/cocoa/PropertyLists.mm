@@ -2,7 +2,6 @@
 
 #include "appkit/bridge/PropertyListConversion.h"
 #include "appkit/bridge/Strings.h"
-#include "appkit/stores/XMLData.h"
 #include "objc/GSTry.h"
 
 namespace qbsp::appkit {
@@ -19,6 +18,13 @@ id propertyListIn(NSData* data) {
     };
     // A file that is no property list may also raise.
     return objc::tryObjC(parse) == nil ? list : nil;
+}
+
+NSData* xmlData(const platform::Dictionary& dictionary) {
+    return [NSPropertyListSerialization dataWithPropertyList:objectFromDictionary(dictionary)
+                                                      format:NSPropertyListXMLFormat_v1_0
+                                                     options:0
+                                                       error:nullptr];
 }
 
 } // namespace

@@ -1,0 +1,151 @@
+#include "appkit/stores/gnustep/StoredLists.h"
+
+#include "files/Folders.h"
+
+#include <tuple>
+#include <utility>
+
+namespace qbsp::appkit {
+
+namespace fs = std::filesystem;
+
+using platform::Dictionary;
+using platform::Value;
+using State = ListFile::State;
+
+namespace {
+
+const std::string leftAlone = "nothing of it is used, and it is left as it is";
+const std::string goesOnWaiting = "what was set is kept in memory, and saved as soon as that is possible";
+const std::string isForgotten = "what was to be saved is not";
+const std::string isLost = "what was set is lost, because the application quits";
+
+} // namespace
+
+fs::path StoredLists::fileOfDomain(const std::string& domain) const {
+    return defaultsFolder_ / (domain + ".plist");
+}
+
+Dictionary StoredLists::contents(const fs::path& file) {
+    ListFile found = reported(file, largestStore);
+    const auto waiting = waiting_.find(file);
+    return waiting == waiting_.end() ? std::move(found.contents)
+                                     : merged(std::move(found.contents), waiting->second);
+}
+
+std::optional<Dictionary> StoredLists::read(const fs::path& file) {
+    ListFile found = reported(file, largestOther);
+    return found.state == State::read ? std::optional(std::move(found.contents)) : std::nullopt;
+}
+
+ListFile StoredLists::reported(const fs::path& file, std::size_t limit) {
+    ListFile found = readListFile(file, limit);
+    if (found.cause.empty())
+        unread_.erase(file);
+    else if (std::exchange(unread_[file], found.cause) != found.cause)
+        log_("ERROR: " + file.string() + ": " + found.cause + "; " + leftAlone);
+    return found;
+}
+
+Dictionary StoredLists::merged(Dictionary contents, const Waiting& waiting) {
+    if (waiting.whole)
+        contents = *waiting.whole;
+    for (const auto& [key, value] : waiting.changes) {
+        if (value.exists())
+            contents[key] = value;
+        else
+            contents.erase(key);
+    }
+    return contents;
+}
+
+void StoredLists::set(const fs::path& file, const std::string& key, const Value& value) {
+    waiting_[file].changes[key] = value;
+}
+
+void StoredLists::replace(const fs::path& file, const Dictionary& contents) {
+    waiting_[file] = {contents, {}};
+}
+
+void StoredLists::onceSaved(const std::string& name, std::function<void()> function) {
+    if (waits())
+        onceSaved_[name] = std::move(function);
+}
+
+bool StoredLists::save(Patience& patience) {
+    saveAll(patience, goesOnWaiting);
+    return !waits();
+}
+
+bool StoredLists::saveOrForget(const fs::path& file, Patience& patience) {
+    saveAll(patience, isForgotten, file);
+    const bool isSaved = waiting_.erase(file) == 0;
+    if (!isSaved)
+        unsaved_.erase(file); // a later save is not of what was forgotten
+    return isSaved;
+}
+
+void StoredLists::saveAtEnd(Patience& patience) {
+    saveAll(patience, isLost);
+}
+
+// Whoever is called once all is saved may come here again.
+void StoredLists::saveAll(Patience& patience, const std::string& fate,
+                          const std::optional<fs::path>& onlyFile) {
+    if (isSaving_ || !waits())
+        return;
+    isSaving_ = true;
+    {
+        const DefaultsLock lock(defaultsFolder_, patience);
+        const std::string place = DefaultsLock::placeIn(defaultsFolder_);
+        if (lock.removedStale())
+            log_("The lock " + place + " was left behind by another process, and was removed");
+        std::erase_if(waiting_, [&](const auto& entry) {
+            if (onlyFile && *onlyFile != entry.first)
+                return false;
+            const std::string failure = lock.isHeld() ? saveUnderLock(entry.first, entry.second)
+                                                      : "its lock " + place + " " + lock.obstacle();
+            failure.empty() ? reportSaved(entry.first) : report(entry.first, failure, fate);
+            return failure.empty();
+        });
+    }
+    isSaving_ = false;
+    callOnceSaved();
+}
+
+std::string StoredLists::saveUnderLock(const fs::path& file, const Waiting& waiting) {
+    const ListFile found = readListFile(file, largestStore);
+    if (found.state == State::unread)
+        return found.cause;
+    const Dictionary wanted = merged(found.contents, waiting);
+    if (found.state == State::read && wanted == found.contents) {
+        const auto failure = files::syncFolder(files::whereLinksLead(file).parent_path());
+        return failure ? "could not be written: " + failure.message() : "";
+    }
+    const bool isRemoved = wanted.empty() && !waiting.whole;
+    const ListWriting writing = isRemoved ? removeListFile(file, found) : writeListFile(file, wanted, found);
+    if (!writing.keptAs.empty())
+        log_("ERROR: " + file.string() + ": " + found.cause + "; it was kept as " +
+             writing.keptAs.filename().string());
+    return writing.failure;
+}
+
+void StoredLists::report(const fs::path& file, const std::string& cause, const std::string& fate) {
+    const std::string line = "ERROR: " + file.string() + ": " + cause + "; " + fate;
+    if (std::exchange(unsaved_[file], line) != line)
+        log_(line);
+}
+
+void StoredLists::reportSaved(const fs::path& file) {
+    if (unsaved_.erase(file) != 0)
+        log_(file.string() + ": what was set was saved after all");
+}
+
+void StoredLists::callOnceSaved() {
+    if (waits())
+        return;
+    for (const auto& [name, function] : std::exchange(onceSaved_, {}))
+        function();
+}
+
+} // namespace qbsp::appkit
