@@ -1,3 +1,5 @@
+#include "FullDisk.h"
+#include "Processes.h"
 #include "TemporaryFolder.h"
 #include "files/Draft.h"
 #include "files/Folders.h"
@@ -8,12 +10,10 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace files {
@@ -36,43 +36,6 @@ std::string textOf(const fs::path& file) {
 std::ptrdiff_t filesIn(const fs::path& folder) {
     return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
 }
-
-/// The text of a process that has ended.
-std::string endedProcess() {
-    int channel[2];
-    EXPECT_EQ(pipe(channel), 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        const std::string text = thisProcess();
-        std::ignore = write(channel[1], text.data(), text.size());
-        _exit(0);
-    }
-    waitpid(child, nullptr, 0);
-    std::string text(200, '\0');
-    text.resize(static_cast<std::size_t>(read(channel[0], text.data(), text.size())));
-    close(channel[0]);
-    close(channel[1]);
-    return text;
-}
-
-/// A disk on which no file can grow beyond that many bytes.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t size) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit none{size, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &none);
-    }
-
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit before_{};
-};
 
 /// A umask, as long as this lives.
 class Umask {
@@ -229,7 +192,7 @@ TEST_F(WholeFile, IsRefusedWhereAFolderIsAndLeavesNothingBehind) {
 }
 
 TEST_F(WholeFile, ClearsTheDraftsOfProcessesThatHaveEndedAndNoOthers) {
-    const std::string ended = endedProcess();
+    const std::string ended = textOfEndedProcess();
     put(folder / (".a file.draft-" + ended + "~7"), "a draft");
     put(folder / (".a file.draft-" + thisProcess() + "~777"), "being written");
     put(folder / (".another.draft-" + ended + "~7"), "another file's");
@@ -255,7 +218,7 @@ TEST_F(WholeFile, KeepsTheDraftsOfAnotherMachineForADay) {
 
 TEST(Owner, IsAliveWhileItsProcessIs) {
     EXPECT_EQ(lifeOf(thisProcess()), Life::alive);
-    EXPECT_EQ(lifeOf(endedProcess()), Life::ended);
+    EXPECT_EQ(lifeOf(textOfEndedProcess()), Life::ended);
 }
 
 TEST(Owner, IsAnotherWhenItsNumberIsUsedAnew) {

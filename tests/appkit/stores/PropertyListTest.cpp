@@ -59,11 +59,14 @@ std::string binaryOf(const std::vector<std::string>& objects) {
            number(objects.size() - 1) + number(bytes.size());
 }
 
-/// A binary list of that many levels, each of which holds the one below so many times; numbers have two bytes.
+/// A binary list of that many levels, each of which holds the one below so many times; numbers have two
+/// bytes.
 std::string levelsOf(std::size_t levels, std::size_t times, const std::string& lowest) {
     std::string bytes(binaryBeginning);
     std::string table;
-    const auto two = [](std::size_t value) { return ""s + static_cast<char>(value >> 8U) + static_cast<char>(value); };
+    const auto two = [](std::size_t value) {
+        return ""s + static_cast<char>(value >> 8U) + static_cast<char>(value);
+    };
     const auto add = [&](const std::string& object) {
         table += two(bytes.size());
         bytes += object;
@@ -71,7 +74,9 @@ std::string levelsOf(std::size_t levels, std::size_t times, const std::string& l
     add(lowest);
     for (std::size_t level = 0; level < levels; ++level)
         add(static_cast<char>(0xA0 + times) + repeated(two(level), times));
-    const auto number = [&](std::size_t value) { return std::string(6, '\0') + two(value); };
+    const auto number = [&](std::size_t value) {
+        return std::string(6, '\0') + two(value);
+    };
     return bytes + table + std::string(6, '\0') + "\x02\x02" + number(levels + 1) + number(levels) +
            number(bytes.size());
 }
@@ -347,7 +352,8 @@ INSTANTIATE_TEST_SUITE_P(
                              "\xD1\0\x02"s, "\xD1\0\x01"s}),
                    Fault::nestedTooDeeply},
         Unreadable{"a binary list one level too deep", levelsOf(513, 1, "\x09"), Fault::nestedTooDeeply},
-        Unreadable{"thirty levels of which each holds the one below twice", levelsOf(30, 2, "\x4F\x11\x3A\x98" + std::string(15000, 'x')), Fault::tooLarge}),
+        Unreadable{"thirty levels of which each holds the one below twice",
+                   levelsOf(30, 2, "\x4F\x11\x3A\x98" + std::string(15000, 'x')), Fault::tooLarge}),
     nameOf<Unreadable>);
 
 TEST(PropertyList, OfEveryKindIsReadAsItWasWrittenInEachFormat) {
