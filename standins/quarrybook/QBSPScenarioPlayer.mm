@@ -22,6 +22,7 @@ namespace quarrybook {
 struct Scenario {
     Lines lines;
     Scene scene;
+    std::string_view command = {}; ///< the last one that was run
     double resumeAt = 0;
     double giveUpAt = 0;
     std::function<bool()> condition = nullptr;
@@ -137,7 +138,7 @@ void QBSPQuitWithStatus(int status) {
         return YES;
     }
     if ([NSDate timeIntervalSinceReferenceDate] > scenario.giveUpAt)
-        throw ScenarioError("waited in vain for '" + scenario.lines[scenario.next - 1].text + "'");
+        throw ScenarioError("timed out waiting for '" + std::string(scenario.command) + "'");
     return NO;
 }
 
@@ -158,6 +159,7 @@ void QBSPQuitWithStatus(int status) {
 - (void)play:(std::string_view)line {
     Scenario& scenario = *playing;
     const ReadCommand command = quarrybook::readCommand(line, scenario.scene);
+    scenario.command = line;
     if (command.echo == quarrybook::Echo::shown)
         printLine("> " + std::string(line));
     Outcome outcome = command.action();
