@@ -66,8 +66,8 @@ class WorkspaceCheck : public RealSession {
 
     [[nodiscard]] pid_t processOf(const std::string& name) const { return others_.at(name); }
 
-    /// Kills the other application; returns once the observer was told.
-    void endAnother(const std::string& name, const Observer& told) {
+    /// Kills the other application; returns once the observer was notified.
+    void endAnother(const std::string& name, const Observer& notified) {
         killAndAwait(others_[name]);
         EXPECT_TRUE(eventually([&] { return notified.reportsOf("org.example." + name) == 1; }));
     }
