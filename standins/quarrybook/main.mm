@@ -3,6 +3,7 @@
 #import "QBSPHostApplication.h"
 #import "QBSPHostDelegate.h"
 #import "QBSPQuitRequest.h"
+#include "files/DefaultsLock.h"
 
 #include <cstdio>
 
@@ -20,6 +21,12 @@ void hideOptionsFromAppKit(char* program, const Options& options, char** environ
     [NSProcessInfo initializeWithArguments:words.data()
                                      count:static_cast<int>(words.size())
                                environment:environment];
+}
+
+// GNUstep waits for a lock that a killed process left behind. Who takes it here removes one that is stale.
+void removeStaleLock() {
+    files::Patience none{files::Patience::Duration(0)};
+    const files::DefaultsLock lock([GSDefaultsRootForUser(NSUserName()) fileSystemRepresentation], none);
 }
 
 void runApplication(const Options& options) {
@@ -50,6 +57,7 @@ int main(int count, char** words, char** environment) {
     }
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
     hideOptionsFromAppKit(words[0], options, environment);
+    removeStaleLock();
     [NSUserDefaults standardUserDefaults]; // must exist before any other view of the defaults
     runApplication(options);
     [pool release];

@@ -1,7 +1,7 @@
 #include "appkit/services/FileManager.h"
 
 #include "appkit/bridge/Strings.h"
-#include "appkit/services/GroupContainer.h"
+#include "appkit/services/SharedFolders.h"
 
 namespace qbsp::appkit {
 
@@ -22,7 +22,7 @@ AppKitFileManager::createDirectoryAtURL(const platform::URL& url,
     const BOOL create = intermediates == platform::IntermediateDirectories::create ? YES : NO;
     [[NSFileManager defaultManager] createDirectoryAtPath:path
                               withIntermediateDirectories:create
-                                               attributes:nil
+                                               attributes:attributesOfNewFolders()
                                                     error:&error];
     return optionalUTF8([error description]);
 }

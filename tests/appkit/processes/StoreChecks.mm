@@ -1,3 +1,4 @@
+#include "appkit/services/FileManager.h"
 #include "appkit/stores/Preferences.h"
 #include "appkit/stores/PropertyLists.h"
 #include "appkit/stores/UserDefaults.h"
@@ -7,6 +8,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
+#include <sys/stat.h>
 
 namespace qbsp::appkit {
 
@@ -121,6 +123,54 @@ TEST_F(StoreCheck, AFlushWithoutAFolderFailsAtOnceAndLosesNothing) {
     EXPECT_TRUE(flush(full));
     EXPECT_TRUE(userDefaults.synchronize());
     EXPECT_EQ(inFile(full), Value("a text"));
+}
+
+TEST_F(StoreCheck, FoldersThatThePaneMakesAreTheUsersAloneWhateverTheUmask) {
+    const mode_t before = umask(0);
+    const auto url = platform::URL::fileURLWithPath(folder / "container/Sorter");
+    EXPECT_EQ(AppKitFileManager().createDirectoryAtURL(url, platform::IntermediateDirectories::create),
+              std::nullopt);
+    EXPECT_TRUE(AppKitPropertyLists().writeToURL({{"Key", true}}, url.appendingPathComponent("a file"),
+                                                 platform::Atomically::yes));
+    umask(before);
+
+    EXPECT_EQ(fs::status(folder / "container").permissions(), fs::perms(0700));
+    EXPECT_EQ(fs::status(folder / "container/Sorter").permissions(), fs::perms(0700));
+    EXPECT_EQ(fs::status(folder / "container/Sorter/a file").permissions(), fs::perms(0600));
+}
+
+TEST_F(StoreCheck, TheStandardDefaultsShowWhatTheHostsFileDoesNotHoldYet) {
+    NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
+    {
+        const FileInPlaceOfFolder obstacle;
+        userDefaults.setObjectForKey("a text", {"Key"});
+        EXPECT_FALSE(userDefaults.synchronize());
+        EXPECT_TRUE([[defaults objectForKey:@"Key"] isEqual:@"a text"]);
+    }
+    EXPECT_TRUE(userDefaults.synchronize());
+    EXPECT_TRUE([[defaults objectForKey:@"Key"] isEqual:@"a text"]);
+}
+
+TEST_F(StoreCheck, WhatTheHostSetInItsStandardDefaultsIsFound) {
+    [[NSUserDefaults standardUserDefaults] setObject:@"of the host" forKey:@"Key"];
+
+    EXPECT_EQ(userDefaults.objectForKey({"Key"}), Value("of the host"));
+}
+
+TEST_F(StoreCheck, WhatWasSetIsSavedByTheRunLoop) {
+    userDefaults.setBoolForKey(true, {"Key"});
+
+    EXPECT_TRUE(eventually([] { return inFile({"RealProcessTests"}) == Value(true); }));
+}
+
+TEST_F(StoreCheck, ASaveThatFailedIsMadeAgainByTheRunLoop) {
+    {
+        const FileInPlaceOfFolder obstacle;
+        preferences->setAppValue(key, "a text", full);
+        EXPECT_FALSE(flush(full));
+    }
+
+    EXPECT_TRUE(eventually([] { return inFile(full) == Value("a text"); }));
 }
 
 } // namespace qbsp::appkit

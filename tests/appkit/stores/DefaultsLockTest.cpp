@@ -1,4 +1,4 @@
-#include "appkit/stores/gnustep/DefaultsLock.h"
+#include "files/DefaultsLock.h"
 
 #include "Processes.h"
 #include "TemporaryFolder.h"
@@ -10,7 +10,7 @@
 #include <optional>
 #include <thread>
 
-namespace qbsp::appkit {
+namespace files {
 
 namespace fs = std::filesystem;
 
@@ -115,7 +115,7 @@ TEST_F(Lock, OfAProcessThatEndedIsRemovedAtOnce) {
 }
 
 TEST_F(Lock, OfAProcessThatLivesIsHeldHoweverOldItIs) {
-    makeOurLock(files::thisProcess());
+    makeOurLock(thisProcess());
     fs::last_write_time(place, fs::file_time_type::clock::now() - 1h);
 
     EXPECT_FALSE(DefaultsLock(folder, none).isHeld());
@@ -212,4 +212,4 @@ TEST_F(Lock, IsHeldByOneProcessAtATime) {
     EXPECT_EQ(filesBesideLock(), 0);
 }
 
-} // namespace qbsp::appkit
+} // namespace files

@@ -119,7 +119,7 @@ TEST_F(WholeFile, FailsToBeReadButIsNotAbsentWithoutDescriptors) {
 }
 
 TEST_F(WholeFile, IsItsOwnersAloneWhenItIsNewAndSoAreItsFoldersWhateverTheUmask) {
-    for (const mode_t mask : {0, 077, 0777}) {
+    for (const mode_t mask : {0U, 077U, 0777U}) {
         const Umask umask(mask);
         const fs::path place = temporary.path() / std::to_string(mask) / "deep";
 

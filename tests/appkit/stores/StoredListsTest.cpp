@@ -53,7 +53,7 @@ protected:
     const TemporaryFolder temporary;
     const fs::path folder = temporary.path() / "Defaults";
     std::vector<std::string> log;
-    Patience patience{0ms};
+    files::Patience patience{0ms};
     StoredLists lists{folder, [this](const std::string& line) {
                           log.push_back(line);
                       }};
@@ -264,10 +264,10 @@ TEST_F(StoredListsTest, AreRefusedWhenTheyWouldNotReadBack) {
 
 TEST_F(StoredListsTest, WaitForALockThatAnotherProcessHas) {
     lists.set(file, "ours", true);
-    const auto place = DefaultsLock::placeIn(folder);
+    const auto place = files::DefaultsLock::placeIn(folder);
     {
-        Patience none{0ms};
-        const DefaultsLock lock(folder, none);
+        files::Patience none{0ms};
+        const files::DefaultsLock lock(folder, none);
         EXPECT_FALSE(lists.save(patience));
     }
     EXPECT_EQ(
@@ -277,7 +277,7 @@ TEST_F(StoredListsTest, WaitForALockThatAnotherProcessHas) {
 }
 
 TEST_F(StoredListsTest, SayWhenTheyRemovedALockThatWasLeftBehind) {
-    const auto place = DefaultsLock::placeIn(folder);
+    const auto place = files::DefaultsLock::placeIn(folder);
     fs::create_directories(place);
     fs::last_write_time(place, fs::file_time_type::clock::now() - 1h);
     lists.set(file, "ours", true);
@@ -315,6 +315,17 @@ TEST_F(StoredListsTest, AreLoggedAsLostWhenTheLastTryFails) {
                                 "application quits")});
 }
 
+TEST_F(StoredListsTest, AreSavedAtTheEndAlsoUnderALockThatIsNotGivenBack) {
+    files::Patience none{0ms};
+    const files::DefaultsLock lock(folder, none);
+    lists.set(file, "ours", true);
+
+    lists.saveAtEnd(patience);
+
+    EXPECT_EQ(stored(), Value(Dictionary{{"ours", true}}));
+    EXPECT_TRUE(log.empty());
+}
+
 TEST_F(StoredListsTest, AreAnnouncedOnceWhenTheyWereSavedAfterAll) {
     std::vector<std::string> calls;
     lists.onceSaved("early", [&] { calls.emplace_back("while nothing waits"); });
@@ -348,7 +359,7 @@ TEST_F(StoredListsTest, HoldEveryKeyOfProcessesThatWriteAtOnce) {
     constexpr int keys = 20;
 
     runAtOnce(processes, [&] {
-        Patience much{60s};
+        files::Patience much{60s};
         for (int key = 0; key < keys; ++key) {
             lists.set(file, std::to_string(getpid()) + "." + std::to_string(key), key);
             EXPECT_TRUE(lists.save(much));
@@ -364,7 +375,7 @@ TEST_F(StoredListsTest, AreWholeAndCanBeSavedAtOnceWhereverAProcessIsKilled) {
     for (int round = 0; round < 30; ++round) {
         const pid_t child = fork();
         if (child == 0) {
-            Patience much{60s};
+            files::Patience much{60s};
             for (int number = 0;; ++number) {
                 lists.set(file, "number", number);
                 lists.save(much);

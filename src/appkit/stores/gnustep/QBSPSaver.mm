@@ -49,7 +49,7 @@ static const NSTimeInterval betweenTries = 5;
 - (void)save:(NSTimer*)aTimer {
     timer = nil;
     // Nobody waits for this, so that it need not wait for others.
-    qbsp::appkit::Patience none{qbsp::appkit::Patience::Duration(0)};
+    files::Patience none{files::Patience::Duration(0)};
     if (!qbsp::appkit::storedLists().save(none))
         [self saveLater];
 }

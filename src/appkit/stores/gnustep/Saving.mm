@@ -11,8 +11,8 @@ namespace qbsp::appkit {
 
 namespace {
 
-Patience& patienceOfUser() {
-    static Patience patience{std::chrono::milliseconds(1500)};
+files::Patience& patienceOfUser() {
+    static files::Patience patience{std::chrono::milliseconds(1200)};
     return patience;
 }
 
@@ -48,7 +48,9 @@ bool saveOrForget(const std::filesystem::path& file) {
 }
 
 void saveAtEnd() {
-    storedLists().saveAtEnd(patienceOfUser());
+    // Leaving the pane may have used up the other patience just now, on the same lock.
+    files::Patience little{std::chrono::milliseconds(400)};
+    storedLists().saveAtEnd(little);
 }
 
 void onceSaved(const std::string& name, std::function<void()> function) {

@@ -57,17 +57,12 @@ bool filesCanBeRead() {
     return canBe;
 }
 
-bool lockCanBeTaken() {
-    Patience none{Patience::Duration(0)};
-    return DefaultsLock(defaultsFolder(), none).isHeld();
-}
-
 using Synchronize = BOOL (*)(id, SEL);
 using AnyFunction = void (*)(); // between types of functions that the compiler takes for incompatible
 Synchronize gnustepsOwn = nullptr;
 
 BOOL synchronizeUnlessItWouldWait(id defaults, SEL selector) {
-    return filesCanBeRead() && lockCanBeTaken() && gnustepsOwn(defaults, selector);
+    return filesCanBeRead() && storedLists().lockCanBeTaken() && gnustepsOwn(defaults, selector);
 }
 
 } // namespace

@@ -72,39 +72,46 @@ void StoredLists::onceSaved(const std::string& name, std::function<void()> funct
         onceSaved_[name] = std::move(function);
 }
 
-bool StoredLists::save(Patience& patience) {
-    saveAll(patience, goesOnWaiting);
+bool StoredLists::save(files::Patience& patience) {
+    saveAll(patience, Unlocked::never, goesOnWaiting);
     return !waits();
 }
 
-bool StoredLists::saveOrForget(const fs::path& file, Patience& patience) {
-    saveAll(patience, isForgotten, file);
+bool StoredLists::saveOrForget(const fs::path& file, files::Patience& patience) {
+    saveAll(patience, Unlocked::never, isForgotten, file);
     const bool isSaved = waiting_.erase(file) == 0;
     if (!isSaved)
         unsaved_.erase(file); // a later save is not of what was forgotten
     return isSaved;
 }
 
-void StoredLists::saveAtEnd(Patience& patience) {
-    saveAll(patience, isLost);
+void StoredLists::saveAtEnd(files::Patience& patience) {
+    saveAll(patience, Unlocked::atTheEnd, isLost);
+}
+
+bool StoredLists::lockCanBeTaken() {
+    files::Patience none{files::Patience::Duration(0)};
+    const files::DefaultsLock lock(defaultsFolder_, none);
+    reportRemoved(lock);
+    return lock.isHeld();
 }
 
 // Whoever is called once all is saved may come here again.
-void StoredLists::saveAll(Patience& patience, const std::string& fate,
+void StoredLists::saveAll(files::Patience& patience, Unlocked unlocked, const std::string& fate,
                           const std::optional<fs::path>& onlyFile) {
     if (isSaving_ || !waits())
         return;
     isSaving_ = true;
     {
-        const DefaultsLock lock(defaultsFolder_, patience);
-        const std::string place = DefaultsLock::placeIn(defaultsFolder_);
-        if (lock.removedStale())
-            log_("The lock " + place + " was left behind by another process, and was removed");
+        const files::DefaultsLock lock(defaultsFolder_, patience);
+        const bool maySave = lock.isHeld() || unlocked == Unlocked::atTheEnd;
+        const std::string place = files::DefaultsLock::placeIn(defaultsFolder_);
+        reportRemoved(lock);
         std::erase_if(waiting_, [&](const auto& entry) {
             if (onlyFile && *onlyFile != entry.first)
                 return false;
-            const std::string failure = lock.isHeld() ? saveUnderLock(entry.first, entry.second)
-                                                      : "its lock " + place + " " + lock.obstacle();
+            const std::string failure =
+                maySave ? saveNow(entry.first, entry.second) : "its lock " + place + " " + lock.obstacle();
             failure.empty() ? reportSaved(entry.first) : report(entry.first, failure, fate);
             return failure.empty();
         });
@@ -113,7 +120,7 @@ void StoredLists::saveAll(Patience& patience, const std::string& fate,
     callOnceSaved();
 }
 
-std::string StoredLists::saveUnderLock(const fs::path& file, const Waiting& waiting) {
+std::string StoredLists::saveNow(const fs::path& file, const Waiting& waiting) {
     const ListFile found = readListFile(file, largestStore);
     if (found.state == State::unread)
         return found.cause;
@@ -134,6 +141,12 @@ void StoredLists::report(const fs::path& file, const std::string& cause, const s
     const std::string line = "ERROR: " + file.string() + ": " + cause + "; " + fate;
     if (std::exchange(unsaved_[file], line) != line)
         log_(line);
+}
+
+void StoredLists::reportRemoved(const files::DefaultsLock& lock) {
+    if (lock.removedStale())
+        log_("The lock " + files::DefaultsLock::placeIn(defaultsFolder_).string() +
+             " was left behind by another process, and was removed");
 }
 
 void StoredLists::reportSaved(const fs::path& file) {

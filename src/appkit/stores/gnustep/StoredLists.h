@@ -1,7 +1,7 @@
 #pragma once
 
-#include "appkit/stores/gnustep/DefaultsLock.h"
 #include "appkit/stores/gnustep/ListFile.h"
+#include "files/DefaultsLock.h"
 #include "platform/Value.h"
 
 #include <filesystem>
@@ -41,13 +41,17 @@ public:
 
     /// Saves all that waits, and waits for the lock as long as there is patience. False when something waits
     /// still.
-    bool save(Patience& patience);
+    bool save(files::Patience& patience);
 
     /// Saves what waits for the file now; forgets it, and returns false, when that fails.
-    [[nodiscard]] bool saveOrForget(const std::filesystem::path& file, Patience& patience);
+    [[nodiscard]] bool saveOrForget(const std::filesystem::path& file, files::Patience& patience);
 
-    /// As save(), but for the last time: what waits still is logged as lost.
-    void saveAtEnd(Patience& patience);
+    /// As save(), but for the last time: a lock that cannot be had is done without, because who holds one
+    /// that long has ended or was stopped. What waits still is logged as lost.
+    void saveAtEnd(files::Patience& patience);
+
+    /// Whether the lock could be taken at this moment; a stale one is removed.
+    [[nodiscard]] bool lockCanBeTaken();
 
     [[nodiscard]] bool waits() const { return !waiting_.empty(); }
 
@@ -66,10 +70,13 @@ private:
 
     [[nodiscard]] ListFile reported(const std::filesystem::path& file, std::size_t limit);
     [[nodiscard]] static platform::Dictionary merged(platform::Dictionary contents, const Waiting& waiting);
-    void saveAll(Patience& patience, const std::string& fate,
+    enum class Unlocked { never, atTheEnd };
+
+    void saveAll(files::Patience& patience, Unlocked unlocked, const std::string& fate,
                  const std::optional<std::filesystem::path>& onlyFile = std::nullopt);
-    [[nodiscard]] std::string saveUnderLock(const std::filesystem::path& file, const Waiting& waiting);
+    [[nodiscard]] std::string saveNow(const std::filesystem::path& file, const Waiting& waiting);
     void report(const std::filesystem::path& file, const std::string& cause, const std::string& fate);
+    void reportRemoved(const files::DefaultsLock& lock);
     void reportSaved(const std::filesystem::path& file);
     void callOnceSaved();
 

@@ -1,4 +1,4 @@
-#include "appkit/services/GroupContainer.h"
+#include "appkit/services/SharedFolders.h"
 
 #include "appkit/bridge/Strings.h"
 #include "appkit/bridge/URLs.h"
@@ -11,6 +11,10 @@ std::optional<platform::URL> groupContainerURL(platform::ApplicationGroup group)
     if (![manager respondsToSelector:container]) // before 10.8 there are no groups
         return std::nullopt;
     return urlFromNSURL([manager containerURLForSecurityApplicationGroupIdentifier:nsString(group.text)]);
+}
+
+NSDictionary* attributesOfNewFolders() {
+    return nil;
 }
 
 } // namespace qbsp::appkit

@@ -5,29 +5,25 @@
 #include <string>
 #include <sys/types.h>
 
-namespace qbsp::appkit {
+namespace files {
 
-/// How long one may wait for others: so much in all, and as much again after a pause in which nobody waited.
-/// What an operation does in several steps is held together by it.
+/// How long one may wait for others: so much in all from the first wait on, and as much again after a pause
+/// in which nobody waited. What an operation does in several steps is held together by it.
 class Patience {
 public:
     using Duration = std::chrono::milliseconds;
 
-    explicit Patience(Duration most, Duration pause = std::chrono::seconds(10))
-        : most_(most), pause_(pause) {}
+    explicit Patience(Duration most, Duration pause = std::chrono::seconds(3)) : most_(most), pause_(pause) {}
 
-    /// What is left of it now.
-    [[nodiscard]] Duration left();
-
-    /// It was waited for that long.
-    void spend(Duration waited);
+    /// Waits that short time; false, and no wait, when there is no patience left.
+    [[nodiscard]] bool wait(Duration shortly);
 
 private:
     using Clock = std::chrono::steady_clock;
 
     Duration most_;
     Duration pause_;
-    Duration spent_{0};
+    Clock::time_point begin_; ///< of the first wait of those that follow each other
     Clock::time_point lastWait_;
 };
 
@@ -64,4 +60,4 @@ private:
     bool removedStale_ = false;
 };
 
-} // namespace qbsp::appkit
+} // namespace files

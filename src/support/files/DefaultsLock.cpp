@@ -1,4 +1,4 @@
-#include "appkit/stores/gnustep/DefaultsLock.h"
+#include "files/DefaultsLock.h"
 
 #include "files/Calls.h"
 #include "files/Folders.h"
@@ -16,7 +16,7 @@
 #include <tuple>
 #include <unistd.h>
 
-namespace qbsp::appkit {
+namespace files {
 
 namespace fs = std::filesystem;
 
@@ -28,14 +28,14 @@ constexpr std::time_t staleAfter = 20;
 constexpr std::chrono::milliseconds betweenTries{10};
 
 constexpr auto ownerName = "owner";
-constexpr std::string_view beginningOfDrafts = ".taking-";
+constexpr std::string_view beginningOfOurs = ".taking-";
 
 bool isStale(const fs::path& lock, const struct stat& status) {
     std::error_code failure;
-    switch (files::lifeOf(fs::read_symlink(lock / ownerName, failure).string())) {
-    case files::Life::alive:
+    switch (lifeOf(fs::read_symlink(lock / ownerName, failure).string())) {
+    case Life::alive:
         return false;
-    case files::Life::ended:
+    case Life::ended:
         return true;
     default:
         return std::abs(std::time(nullptr) - status.st_mtime) > staleAfter;
@@ -45,14 +45,14 @@ bool isStale(const fs::path& lock, const struct stat& status) {
 /// Removes the lock of that number. It is moved away first, so that another that took its place meanwhile is
 /// put back.
 std::error_code removeLock(const fs::path& lock, ino_t number) {
-    const fs::path away = files::passingName(lock.parent_path(), beginningOfDrafts);
+    const fs::path away = passingName(lock.parent_path(), beginningOfOurs);
     if (rename(lock.c_str(), away.c_str()) != 0)
-        return files::lastError();
+        return lastError();
 
     struct stat status {};
 
     if (lstat(away.c_str(), &status) == 0 && status.st_ino != number)
-        return files::errorOf(renameat2(AT_FDCWD, away.c_str(), AT_FDCWD, lock.c_str(), RENAME_NOREPLACE));
+        return errorOf(renameat2(AT_FDCWD, away.c_str(), AT_FDCWD, lock.c_str(), RENAME_NOREPLACE));
     // What stays of it is no lock any more, and goes with the leftovers.
     std::error_code ignored;
     fs::remove_all(away, ignored);
@@ -61,32 +61,32 @@ std::error_code removeLock(const fs::path& lock, ino_t number) {
 
 /// Makes the lock, with its owner in it, in one step; EEXIST when there is one.
 std::error_code makeLock(const fs::path& lock) {
-    const fs::path draft = files::passingName(lock.parent_path(), beginningOfDrafts);
+    const fs::path draft = passingName(lock.parent_path(), beginningOfOurs);
     if (mkdir(draft.c_str(), S_IRWXU) != 0)
-        return files::lastError();
-    auto failure = files::errorOf(symlink(files::thisProcess().c_str(), (draft / ownerName).c_str()));
+        return lastError();
+    auto failure = errorOf(symlink(thisProcess().c_str(), (draft / ownerName).c_str()));
     if (!failure)
-        failure =
-            files::errorOf(renameat2(AT_FDCWD, draft.c_str(), AT_FDCWD, lock.c_str(), RENAME_NOREPLACE));
+        failure = errorOf(renameat2(AT_FDCWD, draft.c_str(), AT_FDCWD, lock.c_str(), RENAME_NOREPLACE));
     if (failure) {
         std::error_code ignored;
         fs::remove_all(draft, ignored);
     }
     // Where the file system cannot do that, the lock goes without an owner.
-    return failure == std::errc::invalid_argument ? files::errorOf(mkdir(lock.c_str(), S_IRWXU)) : failure;
+    return failure == std::errc::invalid_argument ? errorOf(mkdir(lock.c_str(), S_IRWXU)) : failure;
 }
 
 } // namespace
 
-Patience::Duration Patience::left() {
-    if (Clock::now() - lastWait_ > pause_)
-        spent_ = Duration(0);
-    return std::max(most_ - spent_, Duration(0));
-}
-
-void Patience::spend(Duration waited) {
-    spent_ += waited;
-    lastWait_ = Clock::now();
+bool Patience::wait(Duration shortly) {
+    const auto now = Clock::now();
+    if (now - lastWait_ > pause_)
+        begin_ = now;
+    // What was done between two waits in a row is part of the wait.
+    const bool goesOn = now - begin_ < most_;
+    lastWait_ = now;
+    if (goesOn)
+        std::this_thread::sleep_for(shortly);
+    return goesOn;
 }
 
 fs::path DefaultsLock::placeIn(const fs::path& defaultsFolder) {
@@ -95,7 +95,7 @@ fs::path DefaultsLock::placeIn(const fs::path& defaultsFolder) {
 
 DefaultsLock::DefaultsLock(const fs::path& defaultsFolder, Patience& patience)
     : place_(placeIn(defaultsFolder)) {
-    if (const auto failure = files::makeFolders(place_.parent_path()))
+    if (const auto failure = makeFolders(place_.parent_path()))
         obstacle_ = "cannot be made: " + failure.message();
     else
         take(patience);
@@ -111,7 +111,7 @@ DefaultsLock::~DefaultsLock() {
 }
 
 void DefaultsLock::take(Patience& patience) {
-    files::removeLeftovers(place_.parent_path(), beginningOfDrafts);
+    removeLeftovers(place_.parent_path(), beginningOfOurs);
     do {
         const auto failure = makeLock(place_);
 
@@ -138,11 +138,7 @@ bool DefaultsLock::mayTryAgain(Patience& patience) {
             return false;
     }
     obstacle_ = "is held by another process";
-    if (patience.left() <= Patience::Duration(0))
-        return false;
-    std::this_thread::sleep_for(betweenTries);
-    patience.spend(betweenTries);
-    return true;
+    return patience.wait(betweenTries);
 }
 
-} // namespace qbsp::appkit
+} // namespace files
