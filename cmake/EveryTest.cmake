@@ -1,4 +1,4 @@
-# What holds for every test of this build, wherever it was added.
+# Sets properties on every test of this build, wherever it was added.
 
 # The names of the tests that a folder and those below it add.
 function(tests_below folder result)
@@ -11,8 +11,8 @@ function(tests_below folder result)
     set(${result} "${names}" PARENT_SCOPE)
 endfunction()
 
-# Has all tests below the folder require those fixtures, in an environment modified like that. A test's properties can
-# be set in its own folder alone, but CTest, which reads this file after the others, knows them all.
+# Makes all tests below the folder require those fixtures and run in an environment with those modifications. CMake can
+# set a test's properties only in the test's own folder, but CTest reads this file last and knows all tests.
 function(every_test_below folder fixtures environment)
     tests_below("${folder}" names)
     list(JOIN names "\" \"" names)

@@ -1,6 +1,6 @@
 # Finds GNUstep and defines `gnustep_gui`, which carries the flags and libraries of its Foundation and AppKit.
-# GNUstep_FOUND tells whether it is there. Include this before enabling Objective-C: g++ compiles it whatever
-# compiler the core is built with, because GNUstep on this runtime needs GCC's exceptions.
+# GNUstep_FOUND says whether it was found. Include this before enabling Objective-C: g++ compiles it whatever compiler
+# the core is built with, because GNUstep on this runtime needs GCC's exceptions.
 
 find_program(GNUSTEP_CONFIG gnustep-config)
 find_library(GNUSTEP_GUI_LIBRARY gnustep-gui)
@@ -14,19 +14,19 @@ set(GNUstep_FOUND TRUE)
 find_program(CMAKE_OBJC_COMPILER gcc REQUIRED)
 find_program(CMAKE_OBJCXX_COMPILER g++ REQUIRED)
 
-# Of Objective-C's own headers GCC brings the only ones; other tools that read these sources need to be told where.
+# Only GCC brings Objective-C's own headers; other tools that read these sources must be given their path.
 execute_process(COMMAND ${CMAKE_OBJC_COMPILER} -print-file-name=include
                 OUTPUT_VARIABLE objc_headers OUTPUT_STRIP_TRAILING_WHITESPACE)
 
 execute_process(COMMAND ${GNUSTEP_CONFIG} --objc-flags OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE)
 execute_process(COMMAND ${GNUSTEP_CONFIG} --gui-libs OUTPUT_VARIABLE libraries OUTPUT_STRIP_TRAILING_WHITESPACE)
 if(NOT flags OR NOT libraries)
-    message(FATAL_ERROR "${GNUSTEP_CONFIG} tells no flags; it needs make")
+    message(FATAL_ERROR "${GNUSTEP_CONFIG} prints no flags; it needs make")
 endif()
 separate_arguments(flags)
 separate_arguments(libraries)
 
-# Dependency files, optimisation and warnings are CMake's to decide; GNUstep's headers count as the system's.
+# CMake decides on dependency files, optimisation and warnings; GNUstep's headers count as the system's.
 list(FILTER flags EXCLUDE REGEX "^-(MMD|MP|g|O2|Wall|I.*)$")
 list(FILTER libraries INCLUDE REGEX "^-(l|L/usr|shared-libgcc|pthread)")
 
@@ -38,7 +38,7 @@ target_compile_options(gnustep_gui INTERFACE
 target_include_directories(gnustep_gui SYSTEM INTERFACE /usr/include/GNUstep)
 target_link_libraries(gnustep_gui INTERFACE ${libraries})
 
-# Has the target's Objective-C++ sources start from AppKit as compiled once, and from further headers of the system's.
+# Precompiles AppKit and further system headers for the target's Objective-C++ sources.
 #   precompile_appkit(<target> <header>...)
 function(precompile_appkit target)
     set(headers AppKit/AppKit.h functional memory optional string vector ${ARGN})

@@ -1,10 +1,11 @@
-# What every file of this build is compiled with, so that its tests show more.
+# The flags that instrument every file of this build.
 
 if(SORTERPANE_CHECKS STREQUAL "coverage")
-    # One thread runs here: waiting for another to make a static object is no branch that a test could reach.
+    # The tests run a single thread, and cannot reach the branch that waits for another one to initialize a static
+    # object.
     add_compile_options(--coverage "$<$<COMPILE_LANGUAGE:CXX,OBJCXX>:-fno-threadsafe-statics>")
     add_link_options(--coverage)
-    # Headers are included through links; the report knows them by where they lie.
+    # Headers are included through links; the report needs their real paths.
     file(GLOB rooms RELATIVE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/src/*")
     foreach(room IN LISTS rooms)
         foreach(way IN ITEMS inside offered)
@@ -19,10 +20,10 @@ elseif(SORTERPANE_CHECKS STREQUAL "sanitizers")
     set(sanitizers -fsanitize=address,undefined,float-cast-overflow)
     add_compile_options(${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(${sanitizers})
-    # What the sanitizers cannot see inside the standard library, such as the value of an optional that has none.
+    # Checks what the sanitizers cannot see inside the standard library, such as reading an empty optional.
     add_compile_definitions(_GLIBCXX_ASSERTIONS)
 elseif(NOT SORTERPANE_CHECKS STREQUAL "none")
-    message(FATAL_ERROR "SORTERPANE_CHECKS is none of none, sanitizers, coverage: ${SORTERPANE_CHECKS}")
+    message(FATAL_ERROR "SORTERPANE_CHECKS must be none, sanitizers or coverage, not ${SORTERPANE_CHECKS}")
 endif()
 
 if(SORTERPANE_32_BIT)

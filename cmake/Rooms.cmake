@@ -1,9 +1,9 @@
-# A room is a folder of src/. What it offers to others are its public headers, and it sees the public headers of
-# the rooms that it uses, and no others: an include that the house does not allow finds no file.
+# A room is a folder of src/. It offers its public headers to others, and sees only the public headers of the rooms that
+# it uses: an include that is not allowed finds no file.
 
 set(ROOM_INCLUDES "${PROJECT_BINARY_DIR}/include")
 
-# Enters a room, and the rooms that it uses, into the list that write_rooms() writes.
+# Adds a room, and the rooms that it uses, to the list that write_rooms() writes.
 #   declare_room(<name> USES <room>...)
 function(declare_room name)
     cmake_parse_arguments(ROOM "" "" "USES" ${ARGN})

@@ -3,10 +3,10 @@
 
 session_scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
-# Makes everything that is started from now on live in that home. Ends with the shell.
+# Everything that is started from now on uses that home. The session ends with the shell.
 session_start() { # HOME
     local home=$1
-    # Sockets lie in TEMP, and their paths must be short.
+    # Sockets are in TEMP, and their paths must be short.
     session_temp=$(mktemp -d /tmp/qb.XXXXXX)
     trap session_end EXIT
     trap 'exit 130' INT
@@ -17,7 +17,7 @@ session_start() { # HOME
         -e "s|^GNUSTEP_USER_DIR_LIBRARY=.*|GNUSTEP_USER_DIR_LIBRARY=$home/GNUstep/Library|" \
         -e "s|^GNUSTEP_USER_DIR_APPS=.*|GNUSTEP_USER_DIR_APPS=$home/GNUstep/Applications|" \
         /etc/GNUstep/GNUstep.conf >"$session_temp/GNUstep.conf"
-    # The user's own display is reached with the key that lies in the user's own home.
+    # Access to the user's own display takes the key in the user's own home.
     export XAUTHORITY=${XAUTHORITY-$HOME/.Xauthority}
     export HOME=$home TEMP=$session_temp GNUSTEP_CONFIG_FILE=$session_temp/GNUstep.conf
     export XDG_CONFIG_HOME=$home/.config XDG_DATA_HOME=$home/.local/share XDG_STATE_HOME=$home/.local/state
@@ -40,7 +40,7 @@ session_has_manager() {
     xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
 }
 
-# Runs a program to its end. Unlike one in the foreground it does not hold back a signal to end the session.
+# Runs a program to its end. Unlike a foreground command, it does not delay a signal that ends the session.
 session_run() { # COMMAND...
     "$@" &
     wait $!
@@ -52,14 +52,14 @@ session_wait() { # WHAT COMMAND...
     shift
     until "$@"; do
         if ((SECONDS >= limit)); then
-            echo "$what did not come about" >&2
+            echo "timed out waiting for $what" >&2
             return 1
         fi
         sleep 0.05
     done
 }
 
-# The processes of the session, whoever started them: all bear its TEMP.
+# The processes of the session, however they were started: all have its TEMP.
 session_processes() {
     local environment pid
     for environment in /proc/[0-9]*/environ; do

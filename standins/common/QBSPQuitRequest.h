@@ -2,15 +2,16 @@
 
 #import <Foundation/Foundation.h>
 
-/// Lets the application terminate when its process receives SIGTERM. AppKit's own handler runs wherever the
-/// signal interrupts, and may wait forever for a lock that the interrupted code holds; this one leaves the
-/// request to the run loop.
+/// Terminates the application when its process receives SIGTERM. AppKit's own handler runs wherever the
+/// signal interrupts, and may deadlock on a lock that the interrupted code holds; this one passes the request
+/// to the run loop.
 @interface QBSPQuitRequest : NSObject
 
-/// Holds requests back while the application is being made, when AppKit would swallow them. Call it first.
+/// Holds requests back while the application object is being created, when AppKit would lose them. Must be
+/// called first.
 + (void)hold;
 
-/// From now on acts on requests, those that were held back among them. The application must exist.
+/// Starts acting on requests, including those that were held back. The application object must exist.
 + (void)accept;
 
 @end

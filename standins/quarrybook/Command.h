@@ -9,15 +9,15 @@
 
 namespace quarrybook {
 
-/// What a command does once it was read whole, in the real window as a user would do it. Throws
-/// qbsp::scenario::ScenarioError when it cannot be done now.
+/// What a command does after it was read completely: it acts on the real window as a user would. Throws
+/// qbsp::scenario::ScenarioError when that is not possible now.
 using Action = std::function<Outcome()>;
 
-/// Whether the transcript has the command above what it prints.
+/// Whether the transcript shows the command above its output.
 enum class Echo { shown, hidden };
 
-/// A command of a scenario. Its reader takes the arguments and throws qbsp::scenario::ScenarioError when they
-/// are malformed; nothing was done then. The scene outlives the action.
+/// A command of a scenario. Its reader takes the arguments, and throws qbsp::scenario::ScenarioError when
+/// they are malformed, before anything is done. The scene must outlive the action.
 struct Command {
     std::string_view name;
     std::string_view arguments;

@@ -7,17 +7,17 @@
 
 namespace quarrybook {
 
-/// A command that was read whole, and is yet to be done.
+/// A command that was read and is still to be run.
 struct ReadCommand {
     Echo echo = Echo::shown;
     Action action;
 };
 
-/// Reads a line without outer spaces. Throws qbsp::scenario::ScenarioError when it is wrong; nothing was done
-/// then.
+/// Reads a line, which must have no leading or trailing spaces. Throws qbsp::scenario::ScenarioError when it
+/// is malformed, before anything is done.
 [[nodiscard]] ReadCommand readCommand(std::string_view line, const Scene& scene);
 
-/// How each command is written, a line each.
+/// The syntax of each command, one per line.
 [[nodiscard]] std::string commandList();
 
 } // namespace quarrybook

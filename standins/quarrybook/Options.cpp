@@ -56,7 +56,7 @@ bool isForAppKit(const std::string& word) {
     return word.size() > 1 && word[0] == '-' && word[1] != '-';
 }
 
-Mistake unwelcome(const std::string& word, const std::string& value) {
+Mistake refusedValue(const std::string& word, const std::string& value) {
     return {"option '" + word + "' does not take '" + value + "'"};
 }
 
@@ -79,7 +79,7 @@ std::variant<Options, Mistake> parseOptions(const std::vector<std::string>& argu
         if (setting == settings().end())
             options.forAppKit.insert(options.forAppKit.end(), {word, value});
         else if (!setting->second(options, value))
-            return unwelcome(word, value);
+            return refusedValue(word, value);
     }
     return options;
 }
@@ -88,11 +88,11 @@ std::string usage() {
     return "Quarrybook shows the Sorter's pane in its preferences window.\n"
            "\n"
            "  --sandboxed             run as the sandboxed build\n"
-           "  --edition full|solo     run as that edition (full)\n"
+           "  --edition full|solo     run as that edition (default: full)\n"
            "  --no-plugin             run without the SorterPlugin and its registrar\n"
            "  --pane PATH             load that pane instead of the one built beside this program\n"
            "  --play FILE             play a scenario in the window, then quit\n"
-           "  --picture FILE          take a PNG picture of the window; without --play, then quit\n"
+           "  --picture FILE          write a PNG picture of the window at the end, then quit\n"
            "  --help                  print this\n"
            "\n"
            "Pairs such as -NSLanguages '(German)' go to AppKit.\n";

@@ -18,7 +18,7 @@ struct Options {
     std::optional<std::string> scenario;
     std::optional<std::string> picture;
     bool help = false;
-    std::vector<std::string> forAppKit; ///< pairs such as -NSLanguages '(German)', handed on
+    std::vector<std::string> forAppKit; ///< pairs such as -NSLanguages '(German)', passed on
 };
 
 /// What is wrong with a command line, in one line.
@@ -26,7 +26,7 @@ struct Mistake {
     std::string text;
 };
 
-/// Reads the arguments, without the program's name.
+/// Parses the arguments, without the program's name.
 [[nodiscard]] std::variant<Options, Mistake> parseOptions(const std::vector<std::string>& arguments);
 
 /// The text of --help.

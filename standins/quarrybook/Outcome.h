@@ -7,18 +7,18 @@
 
 namespace quarrybook {
 
-/// The time in seconds that a window takes to come or to go.
+/// The time in seconds that a window takes to appear or disappear.
 inline constexpr double timeForWindows = 0.1;
 
-/// What a command came to.
+/// The result of running a command.
 struct Outcome {
     std::vector<std::string> lines;  ///< to print
     double pause = 0;                ///< seconds to let pass before the next command
-    std::function<bool()> condition; ///< what must come true before the next command; empty: nothing
+    std::function<bool()> condition; ///< must be true before the next command; may be empty
 };
 
-/// The outcome of a command with an answer, which is JSON.
-[[nodiscard]] inline Outcome answer(const std::string& json) {
+/// The outcome of a command with a result, which is JSON.
+[[nodiscard]] inline Outcome result(const std::string& json) {
     return {.lines = {"= " + json}, .pause = 0, .condition = {}};
 }
 

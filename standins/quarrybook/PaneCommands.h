@@ -6,7 +6,7 @@
 
 namespace quarrybook {
 
-/// The commands that show and leave the pane, work its controls, and ask what they show.
+/// The commands that show and leave the pane, operate its controls, and print what they show.
 [[nodiscard]] std::span<const Command> paneCommands();
 
 } // namespace quarrybook

@@ -25,7 +25,7 @@ namespace {
 
 Outcome create(const Scene& scene) {
     std::ignore = [scene.runner() mainView];
-    return answer(jsonBoolean([scene.runner() pane] != nil));
+    return result(jsonBoolean([scene.runner() pane] != nil));
 }
 
 Outcome loadView(const Scene& scene) {
@@ -65,7 +65,7 @@ Outcome set(const Scene& scene, const std::string& name, NSInteger wanted) {
     NSButton* box = scene.button(name);
     for (int clicks = 0;[box state] != wanted; ++clicks) {
         if (clicks == 2)
-            throw ScenarioError("a click does not bring it into that state: " + jsonText(name));
+            throw ScenarioError("clicks do not set that state: " + jsonText(name));
         pressButton(box);
     }
     return {};
@@ -85,7 +85,7 @@ Outcome edit(const Scene& scene, NSTableColumn* column, NSInteger row, bool want
     const auto columnIndex = static_cast<NSInteger>([[table tableColumns] indexOfObject:column]);
     const NSRect cell = [table frameOfCellAtColumn:columnIndex row:row];
     const NSPoint middle = NSMakePoint(NSMidX(cell), NSMidY(cell));
-    // The first click may select the row alone.
+    // The first click may only select the row.
     click(table, middle);
     if ([[column identifier] isEqual:flagColumn] && cellValue(table, column, row) != (wanted ? "1" : "0"))
         click(table, middle);
@@ -104,12 +104,12 @@ Action readValue(Words& arguments, const Scene& scene) {
     const std::string column = arguments.text();
     const std::int32_t row = arguments.signed32();
     return [=, &scene] {
-        return answer(cellValue(scene.controls().table(), scene.column(column), scene.row(row)));
+        return result(cellValue(scene.controls().table(), scene.column(column), scene.row(row)));
     };
 }
 
 Outcome rows(const Scene& scene) {
-    return answer(std::to_string([scene.controls().table() numberOfRows]));
+    return result(std::to_string([scene.controls().table() numberOfRows]));
 }
 
 Outcome find(const Scene& scene, NSString* wanted) {
@@ -118,9 +118,9 @@ Outcome find(const Scene& scene, NSString* wanted) {
     for (NSInteger index = 0; index < [table numberOfRows]; ++index) {
         NSString* name = [[table dataSource] tableView:table objectValueForTableColumn:names row:index];
         if ([name caseInsensitiveCompare:wanted] == NSOrderedSame)
-            return answer(std::to_string(index));
+            return result(std::to_string(index));
     }
-    return answer("-1");
+    return result("-1");
 }
 
 Action readFind(Words& arguments, const Scene& scene) {
@@ -133,7 +133,7 @@ Action readFind(Words& arguments, const Scene& scene) {
 constexpr std::int64_t escapeKey = 53;
 constexpr std::int64_t deleteKey = 51;
 
-/// A key that a scenario has the user press in a recorder.
+/// A key press in a recorder.
 struct Press {
     std::string recorder;
     std::int64_t code = 0; ///< -1 presses the key that clears the combination
@@ -169,7 +169,7 @@ Outcome offer(NSView* recorder, const Press& press) {
     if (listens)
         std::ignore = pressKey([recorder window], escapeKey, 0);
     const auto shown = reason.empty() ? std::nullopt : std::optional(reason);
-    return answer(jsonArray({jsonBoolean(listens), jsonTextOrNull(shown)}));
+    return result(jsonArray({jsonBoolean(listens), jsonTextOrNull(shown)}));
 }
 
 Action readOffer(Words& arguments, const Scene& scene) {
@@ -177,7 +177,7 @@ Action readOffer(Words& arguments, const Scene& scene) {
     return [=, &scene] { return offer(scene.recorder(press.recorder), press); };
 }
 
-#pragma mark - All of it
+#pragma mark - All controls
 
 Outcome state(const Scene& scene) {
     Outcome outcome;

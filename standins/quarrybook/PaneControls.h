@@ -21,7 +21,7 @@ inline constexpr const char* hideAppsTable = "hideAppsTable";
 inline constexpr const char* addButton = "addButton";
 } // namespace field
 
-/// The controls of the pane in the window. The pane's main view finds each by its name.
+/// The controls of the pane in the window, looked up by name in the pane's main view.
 class PaneControls {
   public:
     explicit PaneControls(NSView* mainView) : mainView_(mainView) {}

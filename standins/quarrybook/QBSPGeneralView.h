@@ -2,6 +2,6 @@
 
 #import <AppKit/AppKit.h>
 
-/// The page that Quarrybook opens its preferences with: a sentence.
+/// The first page of Quarrybook's preferences, which shows one sentence.
 @interface QBSPGeneralView : NSView
 @end

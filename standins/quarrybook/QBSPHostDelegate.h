@@ -7,7 +7,7 @@ namespace quarrybook {
 struct Options;
 }
 
-/// Starts Quarrybook as its options ask, and ends it.
+/// The application's delegate: starts Quarrybook as its options say, and quits it.
 @interface QBSPHostDelegate : NSObject {
     const quarrybook::Options* options;
     QBSPPaneRunner* runner;

@@ -78,12 +78,12 @@ static NSString* const paneName = @"SorterPane.prefPane";
 - (NSString*)panePath {
     if (options->pane)
         return [NSString stringWithUTF8String:options->pane->c_str()];
-    // The application lies in build/bin, the pane in build.
+    // The application is in build/bin, the pane in build.
     NSString* programs = [[[NSBundle mainBundle] bundlePath] stringByDeletingLastPathComponent];
     return [[programs stringByDeletingLastPathComponent] stringByAppendingPathComponent:paneName];
 }
 
-#pragma mark - What was asked for
+#pragma mark - Scenario and picture
 
 - (void)play {
     player = [[QBSPScenarioPlayer alloc] initWithFile:options->scenario->c_str()

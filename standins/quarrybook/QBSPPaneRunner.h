@@ -3,28 +3,29 @@
 #import <AppKit/AppKit.h>
 #import <PreferencePanes/NSPreferencePane.h>
 
-/// Loads a preference pane from its bundle and drives it through its life, each step once and in order.
+/// Loads a preference pane from its bundle and sends it the messages of its life cycle, each once and in
+/// order.
 @interface QBSPPaneRunner : NSObject {
     NSBundle* bundle;
     NSPreferencePane* pane;
     BOOL shown;
 }
 
-/// Nothing is loaded yet.
+/// Loads nothing yet.
 - (id)initWithBundlePath:(NSString*)path;
 
 /// Why the bundle cannot be used, or nil.
 - (NSString*)problem;
 
-/// The name and the picture that the bundle gives itself; the picture may be nil.
+/// The bundle's label and icon; the icon may be nil.
 - (NSString*)label;
 - (NSImage*)icon;
 
-/// Makes the pane and loads its view, the first time.
+/// The pane's main view. The first call creates the pane and loads the view.
 - (NSView*)mainView;
 
-/// Before and after the view appears, and before and after it goes. Each does nothing when it is not its
-/// turn.
+/// Must be called before and after the view appears, and before and after it disappears. The last three do
+/// nothing while the pane is not shown.
 - (void)willSelect;
 - (void)didSelect;
 - (void)willUnselect;

@@ -18,7 +18,7 @@
     if (bundle == nil)
         return @"there is no pane";
     if (![[bundle principalClass] isSubclassOfClass:[NSPreferencePane class]])
-        return @"that is no preference pane";
+        return @"that is not a preference pane";
     return nil;
 }
 

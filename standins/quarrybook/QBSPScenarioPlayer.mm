@@ -39,7 +39,7 @@ constexpr double longestWait = 20;
 
 int exitStatus = 0;
 
-// AppKit ends the process itself, always with success.
+// AppKit exits the process itself, always with status 0.
 void exitWithStatus() {
     std::fflush(nullptr);
     _exit(exitStatus);
@@ -107,7 +107,7 @@ void QBSPQuitWithStatus(int status) {
 
 - (void)pulse:(NSTimer*)aTimer {
     Scenario& scenario = *playing;
-    // The run loop runs while a click is shown, and the next command waits for the end of that. But a modal
+    // The run loop runs while a click is shown, and the next command waits until that is over. But a modal
     // window that opened during a command is what the next command is for.
     NSWindow* modalWindow = [NSApp modalWindow];
     const bool waits = busy && (modalWindow == nil || modalWindow == modalWindowBefore);
@@ -163,8 +163,8 @@ void QBSPQuitWithStatus(int status) {
     if (command.echo == quarrybook::Echo::shown)
         printLine("> " + std::string(line));
     Outcome outcome = command.action();
-    for (const std::string& answer : outcome.lines)
-        printLine(answer);
+    for (const std::string& text : outcome.lines)
+        printLine(text);
     scenario.resumeAt = [NSDate timeIntervalSinceReferenceDate] + outcome.pause;
     scenario.giveUpAt = [NSDate timeIntervalSinceReferenceDate] + longestWait;
     scenario.condition = std::move(outcome.condition);

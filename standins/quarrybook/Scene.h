@@ -8,8 +8,8 @@
 
 namespace quarrybook {
 
-/// What the commands of a scenario work on: the preferences window and the pane in it. Everything that is
-/// looked for and not there, or hidden, throws qbsp::scenario::ScenarioError.
+/// What the commands of a scenario work on: the preferences window and the pane in it. A lookup throws
+/// qbsp::scenario::ScenarioError for anything that is missing or hidden.
 class Scene {
   public:
     /// Both must outlive the scene.
@@ -20,7 +20,7 @@ class Scene {
 
     [[nodiscard]] QBSPPaneRunner* runner() const { return runner_; }
 
-    /// The modal window where there is one, else the preferences window.
+    /// The modal window if there is one, otherwise the preferences window.
     [[nodiscard]] NSWindow* frontWindow() const;
 
     [[nodiscard]] PaneControls controls() const;
@@ -33,7 +33,7 @@ class Scene {
 
     [[nodiscard]] NSTableColumn* column(const std::string& identifier) const;
 
-    /// The row, when the table has it.
+    /// The row's index, which the table must have.
     [[nodiscard]] NSInteger row(std::int32_t number) const;
 
   private:

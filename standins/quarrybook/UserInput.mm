@@ -31,7 +31,7 @@ constexpr Key keys[] = {
     {124, 114, 0xf703}, {125, 116, 0xf701}, {126, 111, 0xf700},
 };
 
-// Without settings of its own AppKit here reports Alt as Command and the Super key as Help.
+// By default, AppKit here reports Alt as Command and Super as Help.
 std::uint64_t eventFlags(std::uint64_t flags) {
     std::uint64_t reported = flags & (NSShiftKeyMask | NSControlKeyMask);
     if ((flags & NSAlternateKeyMask) != 0)
@@ -67,7 +67,7 @@ NSEvent* keyEvent(NSEventType type, NSWindow* window, const Key& key, std::uint6
                              keyCode:key.x11];
 }
 
-// A modal loop notices that it should end only at the next event, and a timer brings one.
+// A modal loop notices that it should end only at its next event, which the timer and the posted event bring.
 void wakeModalLoop(NSWindow* modalWindow) {
     NSTimer* timer = [NSTimer timerWithTimeInterval:0.05
                                              target:modalWindow

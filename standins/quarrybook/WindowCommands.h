@@ -6,7 +6,7 @@
 
 namespace quarrybook {
 
-/// The commands for the window, for the panels that stand before it, and for the scenario's own course.
+/// The commands for the window, for the panels in front of it, and for the scenario's own flow.
 [[nodiscard]] std::span<const Command> windowCommands();
 
 } // namespace quarrybook

@@ -93,7 +93,7 @@ Outcome close(const Scene& scene) {
     return {};
 }
 
-#pragma mark - The course of the scenario
+#pragma mark - Scenario flow
 
 Action readSay(Words& arguments, const Scene&) {
     const std::string text = arguments.text();

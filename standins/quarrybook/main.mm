@@ -13,7 +13,7 @@ using quarrybook::Options;
 
 namespace {
 
-// AppKit takes each word that it does not know for a file to open, so it must not see our own options.
+// AppKit takes each argument that it does not know for a file to open, so it must not see our own options.
 void hideOptionsFromAppKit(char* program, const Options& options, char** environment) {
     std::vector<char*> words{program};
     for (const std::string& word : options.forAppKit)
@@ -58,7 +58,7 @@ int main(int count, char** words, char** environment) {
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
     hideOptionsFromAppKit(words[0], options, environment);
     removeStaleLock();
-    [NSUserDefaults standardUserDefaults]; // must exist before any other view of the defaults
+    [NSUserDefaults standardUserDefaults]; // must exist before any other instance
     runApplication(options);
     [pool release];
     return 0;

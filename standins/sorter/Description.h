@@ -5,7 +5,7 @@
 
 namespace standin {
 
-/// A property list in one line: YES and NO, numbers, quoted strings, {"key"=value; ...} in the order of the
+/// A property list on one line: YES and NO, numbers, quoted strings, {"key"=value; ...} in the order of the
 /// keys, (value, ...); "none" for nil.
 [[nodiscard]] std::string description(id value);
 

@@ -10,7 +10,8 @@ namespace standin {
 /// read both while it runs.
 class EventLog {
 public:
-    /// The file that $QUARRYBOOK_SORTER_LOG names, else one among the user's logs.
+    /// The log in the file that $QUARRYBOOK_SORTER_LOG names, otherwise in a file below the user's state
+    /// folder.
     static EventLog ofUser();
 
     explicit EventLog(std::filesystem::path file) : file_(std::move(file)) {}

@@ -32,14 +32,15 @@ static void addObserver(id receiver, SEL message, NSString* notice) {
 }
 
 - (void)listenAgain {
-    // Without a daemon this raises before the next attempt is called off.
+    // Without a daemon, -listen raises before the scheduled retry is cancelled.
     [self performSelector:_cmd withObject:nil afterDelay:timeBetweenAttempts];
     [self listen];
     [NSObject cancelPreviousPerformRequestsWithTarget:self selector:_cmd object:nil];
     [receiver listensAgain];
 }
 
-// The observers die with the daemon. The centre must first notice that it is gone.
+// The daemon takes its observers with it. They are added again after a delay, because the centre must first
+// notice that the daemon has gone.
 - (void)connectionDied:(NSNotification*)notification {
     [self performSelector:@selector(listenAgain) withObject:nil afterDelay:0];
 }

@@ -60,7 +60,7 @@ static std::string lineOf(NSNotification* notice, const std::string& values) {
     [tab setVisible:stores->tabIsVisible(usualHost)];
     listener = [[QBSPHostListener alloc] initWithReceiver:self];
     [listener listen];
-    // The launch ends only once the run loop runs.
+    // Launching finishes only once the run loop runs.
     [self performSelector:@selector(logStart) withObject:nil afterDelay:0];
 }
 

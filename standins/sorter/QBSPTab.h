@@ -2,7 +2,7 @@
 
 #import <AppKit/AppKit.h>
 
-/// The "Quarrybook" tab at the right border of the screen.
+/// The "Quarrybook" tab at the right edge of the screen.
 @interface QBSPTab : NSWindow
 
 - (id)init;

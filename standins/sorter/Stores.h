@@ -6,7 +6,7 @@
 
 namespace standin {
 
-/// What the Sorter and the host share, read from the files for each call.
+/// The settings that the Sorter and the host share, read from their files on each call.
 class Stores {
   public:
     /// The stores of the Sorter of that bundle identifier.

@@ -16,7 +16,7 @@ NSString* const hiddenApplications = @"UserSpecifiedFullScreenApplications";
 const std::array<NSString*, 4> hotKeyKeys{@"Sorter.ClipHotKeyCode", @"Sorter.ClipHotKeyModifiers",
                                           @"Sorter.NoteHotKeyCode", @"Sorter.NoteHotKeyModifiers"};
 
-// Only an instance of its own sees what another process wrote.
+// Only a new instance sees what another process wrote.
 id valueInDomain(NSString* domain, NSString* key) {
     NSUserDefaults* defaults = [[[NSUserDefaults alloc] init] autorelease];
     [defaults synchronize];

@@ -6,7 +6,7 @@
 int main() {
     [QBSPQuitRequest hold];
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-    // The reader of its output may end at any time.
+    // The process that reads its output may end at any time.
     std::signal(SIGPIPE, SIG_IGN);
     // Its only window is the tab.
     [[NSUserDefaults standardUserDefaults]

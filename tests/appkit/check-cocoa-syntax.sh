@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Checks the syntax of everything in src/appkit that is built on macOS, for both of its processors, by clang against
+# Checks the syntax of everything in src/appkit that is built on macOS, for both architectures, by clang against
 # GNUstep's headers and declarations of what only Cocoa has. Unknown messages and functions are errors.
-# check-cocoa-syntax.sh STAMP: the file holds what was found without fault before, and is not read again.
+# check-cocoa-syntax.sh STAMP: the file has the checksum of what passed before, which is not checked again.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 shim="$root/tests/appkit/cocoa-shim"
@@ -29,7 +29,7 @@ compile() { # ARCHITECTURE CONFIGURATION ARGUMENT...
 
 check() { # ARCHITECTURE CONFIGURATION FILE
     compile "$1" "$2" -include-pch "$folder/$1.pch" -x objective-c++ -fsyntax-only "$3" ||
-        echo "${3#"$root"/}: not accepted for $1"
+        echo "${3#"$root"/}: does not compile for $1"
 }
 
 check_all() { # ARCHITECTURE CONFIGURATION

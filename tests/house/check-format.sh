@@ -8,7 +8,7 @@ if ! command -v clang-format >/dev/null; then
     exit 1
 fi
 if ! clang-format --version | grep -q "version $version\."; then
-    echo "left out: the format is that of clang-format $version, and this is $(clang-format --version)"
+    echo "skipped: the format is that of clang-format $version, and this is $(clang-format --version)"
     exit 77
 fi
 find src standins tests \( -name '*.h' -o -name '*.cpp' -o -name '*.m' -o -name '*.mm' \) -print0 |

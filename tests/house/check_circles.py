@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""check_circles.py ROOT: no file of the product may include, through others, a file that includes it.
+"""check_circles.py ROOT: no file of the product may include itself through others.
 
 A header and the source of the same name count as one, so that a source that reaches back to its includer is a circle
 too. Prints each circle and exits with 1 if there is one.
@@ -44,7 +44,7 @@ def includes(root):
 
 
 def circles(graph):
-    """A path from each unit that reaches itself back to it; one for each circle that a search from above meets."""
+    """The circles that a depth-first search meets, each as a path that ends where it begins."""
     done, path = set(), []
 
     def visit(node):

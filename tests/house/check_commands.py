@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""check_commands.py DOCUMENT PROGRAM: holds the commands that the program's --help lists against the document's tables.
+"""check_commands.py DOCUMENT PROGRAM: compares the commands in the program's --help with the document's.
 
-Each section of the help that has "commands" in its title stands for the document's section of that title, whose tables
-have a row for each command, written alike. Prints what only one of them has, and exits with 1 if there is anything.
+Each section of the help that has "commands" in its title corresponds to the document's section with that title, whose
+tables have a row for each command in the same notation. Prints the commands that only one of them has, and exits with
+1 if there are any.
 """
 
 import pathlib

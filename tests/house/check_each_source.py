@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""check_each_source.py ROOT: compiles each source by itself, as the default preset does but without code or objects.
+"""check_each_source.py ROOT: compiles each source by itself, as the default preset does, but only checks it.
 
-The builds that the tests are run in compile sources in batches, after headers that all of them share: a source that lacks an
-include, or that takes a name from its neighbour, is accepted there. What was accepted before and has not changed since, nor any
-header, is passed over. Prints what the compiler says and exits with 1 if it refuses a source.
+The builds that run the tests compile sources in batches, after headers that all of them share: they accept a source
+that lacks an include or uses a name from its neighbour. Skips sources that were accepted before, unless they or any
+header have changed since. Prints the compiler's messages, and exits with 1 if it rejects a source.
 """
 
 import concurrent.futures
@@ -67,7 +67,7 @@ def main():
         sys.exit("the default preset compiles nothing")
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         results = list(pool.map(accepted, [check for check in everything if not check[2].exists()]))
-    sys.stderr.writelines(said for _, said in results)
+    sys.stderr.writelines(messages for _, messages in results)
     return 0 if all(good for good, _ in results) else 1
 
 

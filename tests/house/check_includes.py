@@ -29,7 +29,7 @@ INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s*([<"])([^>"]+)[>"]')
 def complaint(room, kind, name, house):
     if kind == "<":
         outside = house[room].core and name not in STANDARD
-        return f"<{name}> is not of the standard library" if outside else None
+        return f"<{name}> is not part of the standard library" if outside else None
     if ".." in pathlib.PurePath(name).parts:
         return f'"{name}" leaves its room by a path'
     other = pathlib.PurePath(name).parts[0]

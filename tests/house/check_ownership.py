@@ -29,7 +29,7 @@ def faults(text):
             yield line_of(text, body.start(1) + found.start()), f"'{found.group()}' hides what it points to"
     for pattern in (NEW, DELETE):
         for found in pattern.finditer(text):
-            yield line_of(text, found.start()), f"'{found.group().split()[0]}': std::make_unique makes it, and the pointer ends it"
+            yield line_of(text, found.start()), f"'{found.group().split()[0]}': use std::make_unique, and let the std::unique_ptr delete it"
 
 
 def line_of(text, position):

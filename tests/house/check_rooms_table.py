@@ -21,9 +21,9 @@ def main():
     written = {row[1]: frozenset(re.findall(r"`(\w+)`", row[2])) for row in rows}
     house = rooms.read(sys.argv[2])
     differences = [f"{room}/ is missing from the table" for room in house if room not in written]
-    differences += [f"{room}/ is no room" for room in written if room not in house]
+    differences += [f"{room}/ is not a room" for room in written if room not in house]
     differences += [
-        f"{room}/ uses {sorted(house[room].uses)}, and not {sorted(written[room])}"
+        f"{room}/ uses {sorted(house[room].uses)}, not {sorted(written[room])}"
         for room in house
         if room in written and written[room] != house[room].uses
     ]

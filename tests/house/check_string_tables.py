@@ -1,9 +1,8 @@
 #!/usr/bin/env python3
-"""check_string_tables.py ROOT: holds the string table of every language to exactly the keys that the code looks up.
+"""check_string_tables.py ROOT: checks that each language's string table has exactly the keys that the code uses.
 
 The code looks up the constants of type TextKey that it uses, and the texts that the Objective-C++ shell asks for in
-place. Prints each key that is missing, surplus or there twice, and each line that is no entry; exits with 1 if there
-is one.
+place. Prints each missing, unused or duplicate key, and each line that is not an entry; exits with 1 if there is one.
 """
 
 import codecs
@@ -48,8 +47,8 @@ def complaints(table, expected):
 def wrong_entries(text, expected):
     keys = collections.Counter(unescaped(entry[1]) for entry in ENTRY_OR_COMMENT.finditer(text) if entry[1])
     yield from (f"missing key: {key!r}" for key in sorted(expected - keys.keys()))
-    yield from (f"surplus key: {key!r}" for key in sorted(keys.keys() - expected))
-    yield from (f"key is there {times} times: {key!r}" for key, times in sorted(keys.items()) if times > 1)
+    yield from (f"unused key: {key!r}" for key in sorted(keys.keys() - expected))
+    yield from (f"key has {times} entries: {key!r}" for key, times in sorted(keys.items()) if times > 1)
     rest = ENTRY_OR_COMMENT.sub("", text)
     yield from (f"neither entry nor comment: {line.strip()!r}" for line in rest.splitlines() if line.strip())
 

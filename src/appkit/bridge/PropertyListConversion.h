@@ -8,11 +8,11 @@
 
 namespace qbsp::appkit {
 
-/// The object as a value of the same kind: Booleans, integers by width and sign, and reals stay apart. An
-/// object that no property list holds is no value; so is nil.
+/// Converts the object to a value of the same kind, keeping Booleans, reals, and integers of each width and
+/// sign apart. Returns no value for nil and for an object that a property list cannot hold.
 [[nodiscard]] platform::Value valueFromObject(id object);
 
-/// The dictionary's entries under string keys; none when the object is no dictionary.
+/// The entries whose keys are strings; none when the object is not a dictionary.
 [[nodiscard]] std::optional<platform::Dictionary> dictionaryFromObject(id object);
 
 /// The value as an autoreleased object of the same kind; nil for no value.

@@ -14,7 +14,7 @@ using platform::Value;
 
 namespace {
 
-// Booleans are numbers of a class of their own. Equality does not tell them apart, nor does the encoding.
+// Booleans are numbers of a class of their own; neither isEqual: nor objCType tells them apart.
 bool isBoolean(NSNumber* number) {
     return [number isKindOfClass:[[NSNumber numberWithBool:YES] class]];
 }

@@ -11,7 +11,7 @@ template <class Object> class Retained {
   public:
     Retained() = default;
 
-    /// Takes a reference of its own.
+    /// Retains the object.
     explicit Retained(Object object) : object_(static_cast<Object>([static_cast<id>(object) retain])) {}
 
     Retained(const Retained& other) : Retained(other.object_) {}
@@ -25,7 +25,7 @@ template <class Object> class Retained {
         return *this;
     }
 
-    /// Takes over the reference that alloc, new or copy gave.
+    /// Takes over the reference that alloc, new or copy returned.
     [[nodiscard]] static Retained adopt(Object object) {
         Retained result;
         result.object_ = object;

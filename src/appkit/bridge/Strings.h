@@ -14,7 +14,7 @@ namespace qbsp::appkit {
 /// The text, or none for nil.
 [[nodiscard]] std::optional<std::string> optionalUTF8(NSString* text);
 
-/// The text as an autoreleased string, never nil: bytes that are no UTF-8 are read as Latin-1.
+/// The text as an autoreleased string, never nil: bytes that are not valid UTF-8 are read as Latin-1.
 [[nodiscard]] NSString* nsString(std::string_view text);
 
 } // namespace qbsp::appkit

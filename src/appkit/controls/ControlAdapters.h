@@ -38,15 +38,15 @@ using Adapter = std::optional<typename AdapterOf<Control>::type>;
 
 } // namespace detail
 
-/// The controls of the pane's view, as the pane knows them.
+/// The adapters for the controls of the pane's view.
 class ControlAdapters {
 public:
     explicit ControlAdapters(const ViewControls& views);
 
-    /// The controls, which live as long as this.
+    /// Outlets to the adapters, valid as long as this object.
     [[nodiscard]] PaneControls outlets();
 
-    /// The adapter of that recorder of the view; null for any other object.
+    /// The adapter of one of the view's recorders; null for any other object.
     [[nodiscard]] AppKitRecorderControl* recorderFor(id recorder);
 
     [[nodiscard]] AppKitTableView& hideAppsTable() { return *adapters_.hideAppsTable; }

@@ -19,7 +19,7 @@ private:
     Retained<NSTableColumn*> column_;
 };
 
-/// A table whose columns stay as they are.
+/// A table whose set of columns does not change.
 class AppKitTableView final : public platform::TableView {
 public:
     explicit AppKitTableView(NSTableView* table);

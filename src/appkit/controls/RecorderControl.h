@@ -8,7 +8,7 @@
 
 namespace qbsp::appkit {
 
-/// A recorder of the pane's view. It stays the view's delegate until it goes.
+/// Adapts a recorder of the pane's view. Forwards the view's delegate messages until it is destroyed.
 class AppKitRecorderControl final : public platform::RecorderControl {
   public:
     explicit AppKitRecorderControl(QBSPRecorderView* view);

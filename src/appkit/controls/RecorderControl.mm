@@ -6,7 +6,7 @@ using qbsp::platform::KeyCombo;
 using qbsp::platform::RecorderControl;
 using qbsp::platform::RecorderDelegate;
 
-/// Hands what the view asks and tells on to the recorder's delegate.
+/// Forwards the view's delegate messages to the recorder's delegate.
 @interface QBSPRecorderListener : NSObject <QBSPRecorderViewDelegate> {
     RecorderControl* recorder;
     RecorderDelegate* delegate;

@@ -4,8 +4,8 @@
 
 @interface NSApplication (Sandboxing)
 
-/// The folder that the host shares with its Sorter, made when it is missing; nil outside the group's
-/// container.
+/// The folder that the host shares with its Sorter, created if it is missing; nil when the process has no
+/// group container.
 - (NSURL*)sharedSorterFolder;
 
 @end

@@ -15,32 +15,33 @@
 
 namespace qbsp::appkit {
 
-/// Everything that the principal object holds: the pane, the services it asks, and its view.
+/// What the principal object owns: the pane, the services that the pane uses, and its view.
 class PaneShell {
   public:
-    /// The principal object, which owns this, and its plug-in's bundle.
+    /// Takes the principal object, which owns this, and the plug-in's bundle; neither is retained.
     PaneShell(PrincipalObject object, NSBundle* bundle);
     ~PaneShell();
     PaneShell(const PaneShell&) = delete;
     PaneShell& operator=(const PaneShell&) = delete;
 
-    /// Makes the pane. False when the base class refused; the principal object is gone then.
+    /// Creates the pane. Returns false when the base class's initializer returned nil; the principal object
+    /// is no longer valid then.
     [[nodiscard]] bool create();
 
     [[nodiscard]] qbsp::QBSPPreferencePane& pane() { return *pane_; }
 
-    /// The view; made the first time.
+    /// The view, created on first use.
     [[nodiscard]] QBSPPaneView* view();
 
-    /// The pane's registrar, which nobody here retains; nil for none.
+    /// The pane's registrar, which is not retained; nil when there is none.
     [[nodiscard]] QBSPRegistrar loginItemRegistrar();
     void setLoginItemRegistrar(QBSPRegistrar registrar);
 
-    /// Reports the end of the application that the notification names.
+    /// Reports to the pane that the application named by the notification has terminated.
     void appDied(NSNotification* notification);
 
-    /// What a recorder asks and reports; the pane is told of a recorder that is not its view's as a foreign
-    /// one. The reason may be null; it is set, autoreleased, when there is one.
+    /// The recorder delegate's messages. The pane treats a recorder that is not in its view as a foreign one.
+    /// The reason may be null; otherwise it is set to an autoreleased string when there is a reason.
     [[nodiscard]] bool isTaken(id recorder, const platform::KeyCombo& keyCombo, NSString** reason);
     void keyComboDidChange(id recorder, const platform::KeyCombo& keyCombo);
 
@@ -48,8 +49,8 @@ class PaneShell {
     void willSelect();
     void willUnselect();
 
-    /// The application ends. The pane is left first when it is shown, and a host that then says so as well is
-    /// not heard.
+    /// Must be called when the application terminates. Leaves the pane if it is shown; a willUnselect that
+    /// the host sends afterwards is ignored.
     void applicationWillTerminate();
 
     [[nodiscard]] NSInteger numberOfRows();
@@ -60,10 +61,10 @@ class PaneShell {
     void makeView();
     void connectActions(id target);
 
-    /// The view's adapter for that recorder, or a null one.
+    /// The view's adapter for that recorder, or a null object when the view has no such recorder.
     [[nodiscard]] platform::RecorderControl& recorderControl(id recorder);
 
-    /// The view's table; one that takes everything and shows nothing while there is no view.
+    /// The view's table, or a null object while there is no view.
     [[nodiscard]] platform::TableView& hideAppsTable();
 
     PrincipalObject object_;

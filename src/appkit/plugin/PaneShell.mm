@@ -13,13 +13,14 @@ namespace qbsp::appkit {
 
 namespace {
 
-/// Asks the pane for a row. One that the list does not have is told as AppKit's own lists tell it.
-template <class Ask> void askForRow(Ask ask) {
+/// Runs code that accesses a row. Raises NSRangeException for a row that the list does not have, as AppKit's
+/// arrays do.
+template <class Access> void accessRow(Access access) {
     try {
-        ask();
+        access();
         return;
     } catch (const std::out_of_range&) {
-        // Raised below: an exception of the one language must not leave a handler of the other.
+        // Raised below, because an Objective-C exception must not leave a C++ handler.
     }
     [NSException raise:NSRangeException format:@"The hide list does not have that row."];
 }
@@ -34,7 +35,7 @@ void connect(NSButton* button, id target, SEL action) {
 PaneShell::PaneShell(PrincipalObject object, NSBundle* bundle)
     : object_(object), bundle_(bundle), services_(object, [object class]), base_(object, bundle) {}
 
-// A host may keep the view longer than the pane.
+// A host may keep the view alive longer than the pane.
 PaneShell::~PaneShell() {
     if (view_.get() != nil)
         connectActions(nil);
@@ -71,7 +72,7 @@ void PaneShell::connectActions(id target) {
     [controls.hideAppsTable setDataSource:target];
 }
 
-#pragma mark - What the pane knows
+#pragma mark - The registrar
 
 QBSPRegistrar PaneShell::loginItemRegistrar() {
     const auto* registrar = dynamic_cast<const RegistrarAdapter*>(pane_->loginItemRegistrar());
@@ -82,7 +83,7 @@ void PaneShell::setLoginItemRegistrar(QBSPRegistrar registrar) {
     pane_->setLoginItemRegistrar(registrar == nil ? nullptr : &givenRegistrar_.emplace(registrar));
 }
 
-#pragma mark - What reaches the pane from the platform
+#pragma mark - Messages from the platform
 
 void PaneShell::appDied(NSNotification* notification) {
     pane_->appDied({dictionaryFromObject([notification userInfo]).value_or(platform::Dictionary())});
@@ -106,10 +107,10 @@ platform::RecorderControl& PaneShell::recorderControl(id recorder) {
     return found == nullptr ? platform::nullObject<platform::RecorderControl>() : *found;
 }
 
-#pragma mark - Life in the host
+#pragma mark - Life cycle
 
 void PaneShell::mainViewDidLoad() {
-    // A host may send the message once more after the view was loaded.
+    // A host may send the message again after the view was loaded.
     if (std::exchange(isSetUp_, true))
         return;
     pane_->mainViewDidLoad();
@@ -149,15 +150,15 @@ NSInteger PaneShell::numberOfRows() {
 
 id PaneShell::objectValue(NSTableColumn* column, NSInteger row) {
     platform::Value value;
-    askForRow([&] {
+    accessRow([&] {
         value = pane_->tableViewObjectValueForTableColumnRow(hideAppsTable(), AppKitTableColumn(column), row);
     });
     return objectFromValue(value);
 }
 
 void PaneShell::setObjectValue(id value, NSTableColumn* column, NSInteger row) {
-    askForRow([&] {
-        // This message has its row in 32 bits; no list comes near them.
+    accessRow([&] {
+        // The pane takes this row as a 32-bit integer, which is enough for any list.
         pane_->tableViewSetObjectValueForTableColumnRow(hideAppsTable(), valueFromObject(value),
                                                         AppKitTableColumn(column),
                                                         static_cast<std::int32_t>(row));

@@ -18,8 +18,8 @@ struct QBSPKeyCombo {
     NSInteger code;
 };
 
-/// The principal class of the plug-in. It forwards every message of the host, of the view and of the platform
-/// to the pane, whose operations have the same names.
+/// The principal class of the plug-in. It forwards every message from the host, the view and the platform to
+/// the pane, whose operations have the same names.
 __attribute__((visibility("default")))
 @interface QBSPPreferencePane : NSPreferencePane {
     std::unique_ptr<qbsp::appkit::PaneShell> shell;
@@ -35,15 +35,15 @@ __attribute__((visibility("default")))
 - (BOOL)appIsPresentInLoginItems;
 - (void)showLoginItemEditFailureAlert:(NSString*)message;
 
-/// Takes a notification with the bundle identifier of the application that ended.
+/// The notification has the bundle identifier of the application that terminated.
 - (void)appDied:(NSNotification*)notification;
 
 - (void)loadHideAppData;
 - (void)deleteFullScreenSettings;
 - (NSInteger)indexOfAppInList:(NSString*)appName;
 
-/// What a recorder asks and reports. One that is neither of the view's two changes no stored hot key. The
-/// reason may be NULL.
+/// The recorder delegate's messages. A recorder that is neither of the view's two changes no stored hot key.
+/// The reason may be NULL.
 - (BOOL)shortcutRecorder:(id)recorder
                isKeyCode:(NSInteger)code
            andFlagsTaken:(NSUInteger)flags
@@ -59,7 +59,7 @@ __attribute__((visibility("default")))
 - (QBSPRegistrar)loginItemRegistrar;
 - (void)setLoginItemRegistrar:(QBSPRegistrar)registrar;
 
-/// YES asks for a reset of the full-screen settings right after the Sorter was next stopped from the pane.
+/// YES requests a reset of the full-screen settings right after the Sorter is next stopped from the pane.
 - (BOOL)deleteFullScreenSettingsInSorter;
 - (void)setDeleteFullScreenSettingsInSorter:(BOOL)isWanted;
 

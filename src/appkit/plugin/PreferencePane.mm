@@ -11,7 +11,7 @@ using qbsp::appkit::PaneShell;
 
 @implementation QBSPPreferencePane
 
-#pragma mark - Life
+#pragma mark - Life cycle
 
 + (void)initialize {
     if (self != [QBSPPreferencePane class])
@@ -34,7 +34,7 @@ using qbsp::appkit::PaneShell;
 
 - (void)dealloc {
     [[NSNotificationCenter defaultCenter] removeObserver:self];
-    // While the object is still whole: what the shell gives up may refer to it.
+    // Destroyed while this object is still intact, because what the shell releases may refer to it.
     shell = nullptr;
     [super dealloc];
 }
@@ -49,7 +49,7 @@ using qbsp::appkit::PaneShell;
     QBSPPaneView* view = shell->view();
     [self setMainView:view];
     [self mainViewDidLoad];
-    // Which control comes first shows once the pane has hidden those it has no use for.
+    // Only known now, because the pane has just hidden the controls that do not apply.
     [self setFirstKeyView:[view firstControl]];
     [self setInitialKeyView:[view firstControl]];
     [self setLastKeyView:[view lastControl]];

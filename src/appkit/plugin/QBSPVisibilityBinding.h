@@ -7,7 +7,7 @@
     NSButton* checkBox;
 }
 
-/// Becomes the check box's target; both must go together.
+/// Retains the check box, and becomes its target.
 - (id)initWithCheckBox:(NSButton*)aCheckBox;
 
 /// Shows what the defaults say now.

@@ -6,8 +6,8 @@
 
 namespace qbsp::recorder {
 
-/// The letter as keyboards print it: its capital, or the letter itself where that takes several ("ß"). Takes
-/// nil for none, which gives an empty text.
+/// The letter as it is printed on a key cap: its capital, or the letter itself where the capital would be
+/// several letters ("ß"). Returns an empty string for nil.
 [[nodiscard]] std::string keyCap(NSString* letter);
 
 } // namespace qbsp::recorder

@@ -15,7 +15,7 @@ struct ModifierText {
     std::string_view text;
 };
 
-// Symbols stand in the order of the Mac's menus; read out, the strongest modifier comes first.
+// Symbols are in the order of the Mac's menus; in words, the strongest modifier comes first.
 constexpr std::array symbols{ModifierText{modifiers::control, "⌃"}, ModifierText{modifiers::option, "⌥"},
                              ModifierText{modifiers::shift, "⇧"}, ModifierText{modifiers::command, "⌘"}};
 constexpr std::array words{

@@ -14,16 +14,16 @@ class Keyboard {
 public:
     virtual ~Keyboard() = default;
 
-    /// The key that the key-down event is about; nothing for a key that only modifies others.
+    /// The key that the key-down event is for; none for a modifier key.
     [[nodiscard]] virtual std::optional<KeyPress> press(NSEvent* event) = 0;
 
-    /// To be called with every key-down, key-up and flags-changed event that is not asked about with press().
+    /// Must be called with every key-down, key-up and flags-changed event that is not passed to press().
     virtual void observe(NSEvent* event) = 0;
 
-    /// Keys may have been released unseen: nothing that was observed counts as held any more.
+    /// Forgets which keys are held down. Must be called when keys may have been released without an event.
     virtual void forgetHeldKeys() = 0;
 
-    /// What the present layout prints on the key; empty where it prints nothing.
+    /// What the current layout prints on the key; empty where it prints nothing.
     [[nodiscard]] virtual std::string label(VirtualKey key) = 0;
 };
 

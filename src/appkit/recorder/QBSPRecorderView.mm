@@ -46,7 +46,7 @@ struct QBSPRecorderParts {
     [super dealloc];
 }
 
-#pragma mark - What it holds
+#pragma mark - The combination
 
 - (void)setKeyCode:(NSInteger)code flags:(NSUInteger)cocoaFlags {
     _parts->logic.setCombo({.flags = cocoaFlags, .code = code});
@@ -123,7 +123,7 @@ struct QBSPRecorderParts {
 }
 
 - (void)windowDidBecomeKey:(NSNotification*)__attribute__((unused))notification {
-    // The focus shows again, and the keyboard layout may be another one by now.
+    // The focus is shown again, and the keyboard layout may have changed.
     [self setNeedsDisplay:YES];
 }
 
@@ -136,7 +136,7 @@ struct QBSPRecorderParts {
 #pragma mark - Keys
 
 - (BOOL)performKeyEquivalent:(NSEvent*)event {
-    // Whatever would act on this key elsewhere must not while it may be the one to record.
+    // While the recorder listens, no other key equivalent may act on the key, which may be the one to record.
     if (![self isListening])
         return [super performKeyEquivalent:event];
     [self handleKeyDown:event];
@@ -162,12 +162,12 @@ struct QBSPRecorderParts {
     const std::optional<KeyPress> press = _parts->keyboard->press(event);
     if (!press)
         return YES;
-    const KeyAnswer answer = _parts->logic.keyPressed(*press);
-    if (answer == KeyAnswer::nextView)
+    const KeyOutcome outcome = _parts->logic.keyPressed(*press);
+    if (outcome == KeyOutcome::nextView)
         [[self window] selectKeyViewFollowingView:self];
-    else if (answer == KeyAnswer::previousView)
+    else if (outcome == KeyOutcome::previousView)
         [[self window] selectKeyViewPrecedingView:self];
-    return answer != KeyAnswer::notOurs;
+    return outcome != KeyOutcome::notHandled;
 }
 
 #pragma mark - Mouse

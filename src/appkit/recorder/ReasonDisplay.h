@@ -14,15 +14,15 @@ class ReasonDisplay {
     ReasonDisplay(const ReasonDisplay&) = delete;
     ReasonDisplay& operator=(const ReasonDisplay&) = delete;
 
-    /// From now on uses that field, which may be nil; empties the one before of what it shows for this
-    /// recorder.
+    /// Uses that field, which may be nil, from now on. Clears the previous field if it shows this recorder's
+    /// sentence.
     void setField(NSTextField* field);
 
     [[nodiscard]] NSTextField* field() const { return field_.get(); }
 
     void show(NSString* sentence);
 
-    /// Empties the field, unless it says something else by now.
+    /// Clears the field, unless it shows something else by now.
     void hide();
 
     /// The sentence that is shown; nil when there is none.

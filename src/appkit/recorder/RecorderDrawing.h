@@ -4,7 +4,7 @@
 
 namespace qbsp::recorder {
 
-/// What a recorder looks like at the moment.
+/// A recorder's current appearance.
 struct RecorderLook {
     NSRect bounds;
     NSString* text;
@@ -20,7 +20,7 @@ struct RecorderLook {
 /// True when a font on this system has the symbols of all four modifiers.
 [[nodiscard]] bool canDrawSymbols();
 
-/// Draws into the view that has the focus for drawing.
+/// Draws into the current graphics context.
 void drawRecorder(const RecorderLook& look);
 
 } // namespace qbsp::recorder

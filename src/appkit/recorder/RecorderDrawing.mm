@@ -20,8 +20,8 @@ bool hasModifierSymbols(NSFont* font) {
         symbols, [covered](unichar symbol) { return static_cast<bool>([covered characterIsMember:symbol]); });
 }
 
-/// The system's own font where it has the symbols (the Mac's has), otherwise
-/// one that does; nil when none does.
+/// The system font where it has the symbols, as on the Mac; otherwise a font that does, or nil when there is
+/// none.
 NSFont* symbolFont() {
     NSFont* system = [NSFont systemFontOfSize:fontSize];
     if (hasModifierSymbols(system))
@@ -72,8 +72,7 @@ NSDictionary* textAttributes(const RecorderLook& look) {
                                                       NSParagraphStyleAttributeName, nil];
 }
 
-/// Both sides leave the clear button's room free, so that the text stays in the
-/// middle.
+/// Leaves room for the clear button on both sides, so that the text stays in the middle.
 NSRect textRect(NSRect bounds, CGFloat height) {
     const CGFloat margin = clearButtonSize + clearButtonMargin + 2;
     NSRect rect = NSInsetRect(bounds, margin, 0);

@@ -44,23 +44,23 @@ void RecorderLogic::clear() {
     accept({});
 }
 
-KeyAnswer RecorderLogic::keyPressed(const KeyPress& press) {
-    // A key that is held down said everything the first time.
+KeyOutcome RecorderLogic::keyPressed(const KeyPress& press) {
+    // A key that is held down acts only once.
     if (press.isRepeat)
-        return armed_ ? KeyAnswer::done : KeyAnswer::notOurs;
+        return armed_ ? KeyOutcome::handled : KeyOutcome::notHandled;
     listener_.refusalPassed();
 
     const CocoaFlags held = press.flags & modifiers::all;
     if (press.key == keys::tab && held == 0)
-        return moveFocus(KeyAnswer::nextView);
+        return moveFocus(KeyOutcome::nextView);
     if (press.key == keys::tab && held == modifiers::shift)
-        return moveFocus(KeyAnswer::previousView);
+        return moveFocus(KeyOutcome::previousView);
 
-    const KeyAnswer plain = held == 0 ? plainKeyPressed(press.key) : KeyAnswer::notOurs;
-    return plain == KeyAnswer::notOurs && armed_ ? keyPressedWhileArmed(press) : plain;
+    const KeyOutcome plain = held == 0 ? plainKeyPressed(press.key) : KeyOutcome::notHandled;
+    return plain == KeyOutcome::notHandled && armed_ ? keyPressedWhileArmed(press) : plain;
 }
 
-KeyAnswer RecorderLogic::plainKeyPressed(VirtualKey key) {
+KeyOutcome RecorderLogic::plainKeyPressed(VirtualKey key) {
     if (key == keys::backspace || key == keys::forwardDelete)
         clear();
     else if (key == keys::space && !armed_)
@@ -68,20 +68,20 @@ KeyAnswer RecorderLogic::plainKeyPressed(VirtualKey key) {
     else if (key == keys::escape && armed_)
         disarm();
     else
-        return KeyAnswer::notOurs;
-    return KeyAnswer::done;
+        return KeyOutcome::notHandled;
+    return KeyOutcome::handled;
 }
 
-KeyAnswer RecorderLogic::keyPressedWhileArmed(const KeyPress& press) {
+KeyOutcome RecorderLogic::keyPressedWhileArmed(const KeyPress& press) {
     const KeyCombo combo{.flags = press.flags & modifiers::all, .code = press.key};
     if (const auto refusal = refusalOf(combo))
         listener_.refused(*refusal);
     else
         offer(combo);
-    return KeyAnswer::done;
+    return KeyOutcome::handled;
 }
 
-KeyAnswer RecorderLogic::moveFocus(KeyAnswer direction) {
+KeyOutcome RecorderLogic::moveFocus(KeyOutcome direction) {
     disarm();
     return direction;
 }

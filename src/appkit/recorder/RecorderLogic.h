@@ -11,44 +11,44 @@ struct KeyPress {
     bool isRepeat = false;
 };
 
-/// Why a recorder that listens did not take a key.
+/// Why a listening recorder refused a key.
 enum class Refusal {
     plainKey,   ///< no modifier, and no function key
-    shiftAlone, ///< Shift is no modifier to tell a hot key from typing
+    shiftAlone, ///< Shift alone does not tell a hot key from typing
     unknownKey, ///< a key that the Mac's keyboard does not have
-    taken       ///< it is somebody else's
+    taken       ///< already in use
 };
 
-/// What is left to do with a key once the logic has seen it.
-enum class KeyAnswer {
-    notOurs,     ///< nothing happened: the key belongs to whoever comes next
-    done,        ///< dealt with; nobody else may act on it
+/// What the caller still has to do with a key.
+enum class KeyOutcome {
+    notHandled,  ///< the next responder gets the key
+    handled,     ///< no other responder may act on it
     nextView,    ///< the focus moves on
     previousView ///< the focus moves back
 };
 
-/// Whom a recorder's logic asks and tells.
+/// The delegate of a recorder's logic.
 class RecorderListener {
 public:
     virtual ~RecorderListener() = default;
 
-    /// True when the combination is somebody else's. Then refused() follows at once.
+    /// Returns true when the combination is already in use; refused() is called next.
     [[nodiscard]] virtual bool isTaken(const KeyCombo& combo) = 0;
 
-    /// The user must be told in words.
+    /// A key was refused, and the user must be told why.
     virtual void refused(Refusal refusal) = 0;
 
-    /// What the last refusal said no longer matters.
+    /// The last refusal no longer applies.
     virtual void refusalPassed() = 0;
 
     /// The user recorded that combination, or cleared the recorder.
     virtual void comboChanged(const KeyCombo& combo) = 0;
 
-    /// What is shown may be out of date: the combination, or whether the recorder listens.
+    /// The recorder must be redrawn: its combination, or whether it listens, may have changed.
     virtual void lookChanged() = 0;
 };
 
-/// A recorder without its looks: what it holds, whether it listens, and what a key does to it.
+/// A recorder without its appearance: its combination, whether it listens, and how it responds to keys.
 class RecorderLogic {
 public:
     /// Starts idle and empty. The listener must outlive the logic.
@@ -58,25 +58,25 @@ public:
 
     [[nodiscard]] bool isArmed() const { return armed_; }
 
-    /// The program's combination: held from now on, and not reported.
+    /// Sets the combination without reporting it.
     void setCombo(const KeyCombo& combo);
 
-    /// Listens from now on; does nothing when it does already.
+    /// Starts listening; does nothing when it already listens.
     void arm();
 
-    /// Listens no more, and keeps what it holds.
+    /// Stops listening and keeps the combination.
     void disarm();
 
-    /// Holds the empty combination from now on and reports it, unless it was empty already. Listens no more.
+    /// Stops listening and sets the empty combination. Reports it, unless the combination was empty already.
     void clear();
 
-    /// What the key means here is done; the answer says what is left for the caller.
-    [[nodiscard]] KeyAnswer keyPressed(const KeyPress& press);
+    /// Acts on the key, and returns what is left for the caller to do.
+    [[nodiscard]] KeyOutcome keyPressed(const KeyPress& press);
 
 private:
-    [[nodiscard]] KeyAnswer plainKeyPressed(VirtualKey key);
-    [[nodiscard]] KeyAnswer keyPressedWhileArmed(const KeyPress& press);
-    [[nodiscard]] KeyAnswer moveFocus(KeyAnswer direction);
+    [[nodiscard]] KeyOutcome plainKeyPressed(VirtualKey key);
+    [[nodiscard]] KeyOutcome keyPressedWhileArmed(const KeyPress& press);
+    [[nodiscard]] KeyOutcome moveFocus(KeyOutcome direction);
     void offer(const KeyCombo& combo);
     void accept(const KeyCombo& combo);
 

@@ -12,14 +12,14 @@ namespace qbsp::recorder {
 /// What an empty recorder shows.
 [[nodiscard]] NSString* emptyText();
 
-/// What a screen reader says that an empty recorder holds.
+/// What a screen reader announces as the value of an empty recorder.
 [[nodiscard]] NSString* emptyValueText();
 
-/// What a screen reader says that a recorder is.
+/// What a screen reader announces as the role of a recorder.
 [[nodiscard]] NSString* roleText();
 
-/// A whole sentence that tells the user why a key was not taken. A taken combination may come with a reason
-/// in words that are no sentence yet; nil or empty is none.
+/// A sentence that tells the user why a key was refused. For a combination that is taken, the reason may be a
+/// phrase, which is made into a sentence; it is nil or empty when there is none.
 [[nodiscard]] NSString* refusalSentence(Refusal refusal, NSString* reason);
 
 } // namespace qbsp::recorder

@@ -1,6 +1,6 @@
 #include "appkit/recorder/RecorderTexts.h"
 
-/// A class of this bundle, by which the bundle is found.
+/// A class by which this bundle is found.
 @interface QBSPRecorderTexts : NSObject
 @end
 

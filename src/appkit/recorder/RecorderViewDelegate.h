@@ -4,10 +4,10 @@
 
 @class QBSPRecorderView;
 
-/// Judges what a recorder was offered, and hears what the user recorded.
+/// Decides whether a recorder may take a combination, and is notified when the user changes it.
 @protocol QBSPRecorderViewDelegate
 
-/// YES refuses the combination. The reason, unless it is left alone, is then shown to the user.
+/// Returns YES to refuse the combination. The reason, if it is set, is then shown to the user.
 - (BOOL)recorderView:(QBSPRecorderView*)view
            isKeyCode:(NSInteger)code
        andFlagsTaken:(NSUInteger)cocoaFlags

@@ -7,13 +7,13 @@
 
 namespace qbsp::recorder {
 
-/// Carries what the logic asks and tells to the view's delegate, to its reason field and to the screen.
+/// Forwards the logic's calls to the view's delegate, its reason field and the screen.
 class ViewListener : public RecorderListener {
   public:
     /// The view must outlive the listener.
     explicit ViewListener(QBSPRecorderView* view) : view_(view) {}
 
-    /// Not retained; nil takes every combination, and hears of none.
+    /// Not retained. With nil, every combination is accepted and none is reported.
     void setDelegate(id<QBSPRecorderViewDelegate> delegate) { delegate_ = delegate; }
 
     [[nodiscard]] id<QBSPRecorderViewDelegate> delegate() const { return delegate_; }

@@ -9,10 +9,10 @@ namespace qbsp::recorder {
 using platform::CocoaFlags;
 using platform::KeyCombo;
 
-/// A key by its place on the Mac's keyboard, whatever letter the layout prints on it.
+/// A key by its position on the Mac's keyboard, whatever letter the layout prints on it.
 using VirtualKey = std::int64_t;
 
-/// Stands for a key that has no place on the Mac's keyboard, and for no key at all.
+/// No key, or a key that the Mac's keyboard does not have.
 inline constexpr VirtualKey noKey = -1;
 
 namespace keys {
@@ -33,8 +33,8 @@ inline constexpr CocoaFlags all = shift | control | option | command;
 
 } // namespace modifiers
 
-/// The combination without what a recorder does not record: Caps Lock and other bits of an event go, and a
-/// combination without a key is the empty one.
+/// The combination as a recorder keeps it: Caps Lock and other event flags are removed, and a combination
+/// without a key becomes the empty one.
 [[nodiscard]] KeyCombo normalized(const KeyCombo& combo);
 
 /// True when the combination has a key.

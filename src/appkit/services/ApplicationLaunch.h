@@ -5,8 +5,8 @@
 
 namespace qbsp::appkit {
 
-/// Launches the application at that URL and waits for nothing. An application that runs from there already is
-/// the one that is answered.
+/// Launches the application at that URL without waiting for it. If an application is already running from
+/// that URL, returns that one.
 [[nodiscard]] platform::LaunchResult launchApplication(const platform::URL& url,
                                                        platform::LaunchOptions options);
 

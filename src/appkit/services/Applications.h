@@ -12,7 +12,7 @@ namespace qbsp::appkit {
 
 class TerminationNotices;
 
-/// The shared workspace. Used on the main thread, whose run loop brings the notices.
+/// The shared workspace. To be used on the main thread, whose run loop delivers the notifications.
 class AppKitWorkspace final : public platform::Workspace {
 public:
     AppKitWorkspace();
@@ -33,14 +33,15 @@ private:
     std::vector<std::unique_ptr<TerminationNotices>> notices_;
 };
 
-/// The applications that really run: one that was killed does not, nor does a process that merely bears the
-/// name or the number of one.
+/// The applications that are actually running: not one that was killed, nor a process that merely has the
+/// name or the process number of one.
 class AppKitRunningApplications final : public platform::RunningApplications {
 public:
     [[nodiscard]] bool applicationIsRunning(platform::BundleIdentifier identifier) const override;
 };
 
-/// The launch database. A system without one answers success for any application that it could launch.
+/// The Launch Services database. A system without one returns success for any application that it could
+/// launch.
 class AppKitLaunchServices final : public platform::LaunchServices {
 public:
     [[nodiscard]] std::int32_t registerURL(const platform::URL& url,

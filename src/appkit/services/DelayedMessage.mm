@@ -8,14 +8,14 @@
 namespace qbsp::appkit {
 
 struct DelayedMessage {
-    // What the message holds goes before the object whose services it may still use.
+    // Declared first and so destroyed last, because the message may still use this object's services.
     Retained<id> keptAlive;
     std::function<void()> send;
 };
 
 } // namespace qbsp::appkit
 
-/// The target of a delayed message. The run loop retains it until the message was sent.
+/// The target of a delayed message. The run loop retains it until the message has been sent.
 @interface QBSPDelayedMessage : NSObject {
     std::unique_ptr<qbsp::appkit::DelayedMessage> message;
 }

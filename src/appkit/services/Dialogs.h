@@ -7,10 +7,10 @@
 
 namespace qbsp::appkit {
 
-/// AppKit's open panels. The object that owns the services stays alive while a panel is shown.
+/// AppKit's open panels. A panel that is shown keeps the owner of the services alive.
 class AppKitOpenPanels final : public platform::OpenPanels {
 public:
-    /// The owner holds this, and is therefore not retained by it.
+    /// The owner is not retained, because it owns this object.
     explicit AppKitOpenPanels(id owner) : owner_(owner) {}
 
     [[nodiscard]] std::shared_ptr<platform::OpenPanel> openPanel() override;

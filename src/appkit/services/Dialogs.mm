@@ -47,7 +47,7 @@ class AppKitOpenPanel final : public platform::OpenPanel {
                                   std::function<void(std::int64_t)> completionHandler) override;
 
     std::optional<platform::URL> chosenURL() const override {
-        // The system's panel is a shared one, which still has what was chosen in it before.
+        // The system shares one panel, which still has the previous choice.
         return *isChosen_ ? urlFromNSURL([[panel_.get() URLs] lastObject]) : std::nullopt;
     }
 
@@ -63,14 +63,15 @@ void AppKitOpenPanel::beginSheetModalForWindow(platform::Window* window,
     const Retained<NSWindow*> sheetWindow(nsWindow(window));
     const Retained<id> owner = owner_;
     const auto isChosen = isChosen_;
-    // The owner stays while the panel is a sheet, too.
+    // The handler, too, keeps the owner alive while the panel is shown.
     const auto handler = [=](std::int64_t result) {
         std::ignore = owner;
         *isChosen = result == platform::NSOKButton;
         completionHandler(result);
     };
     const auto show = [=] { showSheet(panel.get(), sheetWindow.get(), handler); };
-    // The panel may run modally; shown from the run loop, its result still comes after this has returned.
+    // The panel may run modally. Shown from the run loop, it still reports its result after this has
+    // returned.
     sendAfterDelay(show, 0, owner_.get());
 }
 

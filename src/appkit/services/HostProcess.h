@@ -11,12 +11,12 @@ namespace qbsp::appkit {
 
 class AppKitBundles final : public platform::Bundles {
 public:
-    /// Texts come from the bundle that this class was loaded from.
+    /// Localized texts come from the bundle that this class was loaded from.
     explicit AppKitBundles(Class paneClass) : paneClass_(paneClass) {}
 
     [[nodiscard]] platform::URL mainBundleURL() const override;
 
-    /// The registrar is one that this process's runtime handed out.
+    /// A registrar that is not a RegistrarAdapter counts as none.
     [[nodiscard]] std::optional<std::string>
     executablePathOfBundleForClassOf(const QBSPSorterControl* registrar) const override;
 

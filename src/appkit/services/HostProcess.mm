@@ -5,8 +5,8 @@
 
 #import <AppKit/AppKit.h>
 
-/// What a host of the pane answers; others answer neither.
-@interface NSObject (QBSPHostQuestions)
+/// Implemented by the pane's own hosts; other hosts implement neither.
+@interface NSObject (QBSPHostProperties)
 - (BOOL)isSandboxed;
 - (BOOL)isPro;
 @end

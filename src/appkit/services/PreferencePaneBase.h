@@ -8,7 +8,7 @@
 
 #include <optional>
 
-/// What the principal object's base class does for the messages that the pane overrides.
+/// The base class's implementations of the messages that the principal class overrides.
 @protocol QBSPInheritedMessages
 - (id)inheritedInitWithBundle:(NSBundle*)bundle;
 - (void)inheritedMainViewDidLoad;
@@ -18,10 +18,10 @@
 
 namespace qbsp::appkit {
 
-/// The object of the plug-in's principal class.
+/// An instance of the plug-in's principal class.
 using PrincipalObject = NSPreferencePane<QBSPInheritedMessages>*;
 
-/// The NSPreferencePane that the principal object derives from. The object owns this.
+/// The NSPreferencePane part of the principal object, which owns this.
 class AppKitPreferencePaneBase final : public platform::PreferencePaneBase {
   public:
     AppKitPreferencePaneBase(PrincipalObject object, NSBundle* bundle) : object_(object), bundle_(bundle) {}

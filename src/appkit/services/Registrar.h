@@ -8,14 +8,14 @@
 
 namespace qbsp::appkit {
 
-/// The host's registrar object, which the host owns.
+/// Adapts the host's registrar, which the host owns.
 class RegistrarAdapter final : public QBSPSorterControl {
   public:
     explicit RegistrarAdapter(QBSPRegistrar registrar) : registrar_(registrar) {}
 
     [[nodiscard]] QBSPRegistrar object() const { return registrar_; }
 
-    /// The class that the object is of.
+    /// The registrar's class.
     [[nodiscard]] Class objectClass() const { return [registrar_ class]; }
 
     [[nodiscard]] bool applicationIsRegistered(const std::optional<platform::URL>& application) override;
@@ -29,7 +29,7 @@ class RegistrarAdapter final : public QBSPSorterControl {
     QBSPRegistrar registrar_;
 };
 
-/// A class that answers `defaultLoader`. It keeps the adapter of what was answered last.
+/// A class that may respond to `defaultLoader`. Keeps the adapter of the registrar that it last returned.
 class AppKitLoaderClass final : public platform::LoaderClass {
   public:
     explicit AppKitLoaderClass(Class loader) : loader_(loader) {}
@@ -41,7 +41,7 @@ class AppKitLoaderClass final : public platform::LoaderClass {
     std::optional<RegistrarAdapter> registrar_;
 };
 
-/// The classes in this process. It keeps the adapter of the class that was found last.
+/// The classes in this process. Keeps the adapter of the class that was last found.
 class AppKitRuntime final : public platform::Runtime {
   public:
     [[nodiscard]] platform::LoaderClass* classFromString(platform::ClassName name) override;

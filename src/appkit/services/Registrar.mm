@@ -3,7 +3,8 @@
 #include "appkit/bridge/Strings.h"
 #include "appkit/bridge/URLs.h"
 
-/// The compiler hands a protocol to the runtime only where code refers to it; hosts look it up by its name.
+/// The compiler registers a protocol with the runtime only if code refers to it, and hosts look it up by
+/// name.
 [[gnu::used]] static Protocol* registrarProtocol() {
     return @protocol(QBSPSorterControl);
 }
@@ -35,10 +36,10 @@ void RegistrarAdapter::closeSorterApplication() {
 }
 
 QBSPSorterControl* AppKitLoaderClass::defaultLoader() {
-    // By name: the class belongs to the host, and nothing here links against it.
+    // By name, because the class belongs to the host and nothing here links against it.
     SEL defaultLoader = NSSelectorFromString(@"defaultLoader");
-    const bool answers = [static_cast<id>(loader_) respondsToSelector:defaultLoader];
-    id registrar = answers ? [static_cast<id>(loader_) performSelector:defaultLoader] : nil;
+    const bool responds = [static_cast<id>(loader_) respondsToSelector:defaultLoader];
+    id registrar = responds ? [static_cast<id>(loader_) performSelector:defaultLoader] : nil;
     return registrar == nil ? nullptr : &registrar_.emplace(registrar);
 }
 

@@ -6,10 +6,10 @@
 
 namespace qbsp::appkit {
 
-/// The main thread's run loop. The object that owns the services stays alive while a message waits.
+/// The main thread's run loop. A pending message keeps the owner of the services alive.
 class AppKitRunLoop final : public platform::RunLoop {
 public:
-    /// The owner holds this, and is therefore not retained by it.
+    /// The owner is not retained, because it owns this object.
     explicit AppKitRunLoop(id owner) : owner_(owner) {}
 
     void performSelectorAfterDelay(platform::Selector selector, std::function<void()> message,

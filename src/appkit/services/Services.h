@@ -15,12 +15,13 @@
 
 namespace qbsp::appkit {
 
-/// All services on AppKit and Foundation.
+/// All services, implemented with AppKit and Foundation.
 struct AppKitServices {
-    /// The owner holds this; messages that wait keep it alive. The pane's texts are in the class's bundle.
+    /// The owner is not retained, because it owns this; pending messages keep it alive. Localized texts come
+    /// from the class's bundle.
     AppKitServices(id owner, Class paneClass) : bundles(paneClass), runLoop(owner), openPanels(owner) {}
 
-    /// References to the services, which live as long as this.
+    /// References to the services, valid as long as this object.
     [[nodiscard]] platform::Services references() { return platform::servicesOf(*this); }
 
     AppKitHost host;

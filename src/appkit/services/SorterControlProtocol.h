@@ -2,7 +2,7 @@
 
 #import <Foundation/Foundation.h>
 
-/// What the host's registrar answers. All of it is required.
+/// What the host's registrar implements. All methods are required.
 @protocol QBSPSorterControl <NSObject>
 - (BOOL)applicationIsRegistered:(NSURL*)applicationURL;
 - (BOOL)registerApplication:(NSURL*)applicationURL;
@@ -12,5 +12,5 @@
 - (void)closeSorterApplication;
 @end
 
-/// The registrar object. The pane knows it by a class of the protocol's name.
+/// The registrar object. The core represents it by a C++ class with the protocol's name.
 using QBSPRegistrar = id<QBSPSorterControl>;

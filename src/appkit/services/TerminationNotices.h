@@ -12,8 +12,8 @@
 
 namespace qbsp::appkit {
 
-/// The workspace's notices of applications that terminated, for one observer and for as long as this exists.
-/// Each end is reported once, with the bundle identifier, after the process has gone.
+/// Delivers the workspace's notifications of terminated applications to one observer, as long as this exists.
+/// Each termination is reported once, with the bundle identifier, after the process has gone.
 class TerminationNotices {
   public:
     TerminationNotices(std::weak_ptr<platform::TerminationObserver> observer,

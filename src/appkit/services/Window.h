@@ -6,7 +6,7 @@
 
 namespace qbsp::appkit {
 
-/// A window of AppKit, for as long as somebody else keeps it.
+/// Refers to an AppKit window without retaining it.
 class AppKitWindow final : public platform::Window {
 public:
     explicit AppKitWindow(NSWindow* window) : window_(window) {}

@@ -6,19 +6,19 @@
 
 namespace qbsp::appkit {
 
-/// The width that the control would like to have.
+/// The control's preferred width.
 [[nodiscard]] CGFloat naturalWidth(NSView* control);
 
-/// Controls side by side in the size of their contents, on as many lines as it takes to keep within a width.
-/// Hidden ones take no room. Used at once: the views are not kept.
+/// Lays out controls side by side, each sized to its contents, on as many lines as fit them into a width.
+/// Hidden controls take no space. To be used at once: the views are not retained.
 class ControlFlow {
   public:
     ControlFlow(const std::vector<NSView*>& controls, CGFloat width);
 
-    /// The height of all lines.
+    /// The total height of all lines.
     [[nodiscard]] CGFloat height() const { return lineTop_ + lineHeight_; }
 
-    /// Gives the controls their places, the first one's top left corner at that point of a flipped view.
+    /// Sets the controls' frames, with the first control's top left corner at that point of a flipped view.
     void place(NSPoint origin) const;
 
   private:

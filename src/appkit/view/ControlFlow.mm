@@ -10,7 +10,7 @@ namespace qbsp::appkit {
 namespace {
 
 constexpr CGFloat gap = 10;
-constexpr CGFloat narrowestPushButton = 100;
+constexpr CGFloat minimumPushButtonWidth = 100;
 constexpr CGFloat pushButtonPadding = 24;
 constexpr CGFloat pushButtonHeight = 26;
 constexpr CGFloat unlimited = 10000;
@@ -19,7 +19,7 @@ NSSize buttonSize(NSButton* button) {
     const NSSize size = [[button cell] cellSize];
     if (![button isBordered])
         return NSMakeSize(std::ceil(size.width) + 4, std::ceil(size.height));
-    return NSMakeSize(std::max(narrowestPushButton, std::ceil(size.width) + pushButtonPadding),
+    return NSMakeSize(std::max(minimumPushButtonWidth, std::ceil(size.width) + pushButtonPadding),
                       std::max(pushButtonHeight, std::ceil(size.height)));
 }
 

@@ -4,12 +4,12 @@
 
 namespace qbsp::appkit {
 
-// All of these are autoreleased and have the size of their contents once they have a text.
+// All of these are autoreleased; the form's layout sets their frames.
 
-/// A text that the user cannot edit, on one line or wrapped.
+/// A wrapping text field that the user cannot edit.
 [[nodiscard]] NSTextField* makeLabel(NSTextAlignment alignment);
 
-/// The same in the small font of remarks.
+/// The same in the small system font, aligned left.
 [[nodiscard]] NSTextField* makeRemark();
 
 [[nodiscard]] NSButton* makeCheckBox();
@@ -18,10 +18,10 @@ namespace qbsp::appkit {
 /// The hide list's table: a column of names, which cannot be edited, and one of check boxes.
 [[nodiscard]] NSTableView* makeHideTable();
 
-/// The table in a frame that scrolls.
+/// A scroll view with the table in it.
 [[nodiscard]] NSScrollView* makeScrollView(NSTableView* table);
 
-/// Tells assistive software what the element is for, where the system can.
+/// Sets the element's accessibility label, where the system supports it.
 void setAccessibilityLabel(id element, NSString* label);
 
 } // namespace qbsp::appkit

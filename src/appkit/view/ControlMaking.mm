@@ -98,7 +98,7 @@ NSScrollView* makeScrollView(NSTableView* table) {
 }
 
 void setAccessibilityLabel(id element, NSString* label) {
-    // By name: not every AppKit has it.
+    // By name, because not every AppKit has it.
     SEL setLabel = NSSelectorFromString(@"setAccessibilityLabel:");
     if ([element respondsToSelector:setLabel])
         [element performSelector:setLabel withObject:label];

@@ -6,21 +6,21 @@
 
 namespace qbsp::appkit {
 
-/// How a row takes up the room there is.
+/// How a row uses the space that is left.
 enum class Stretch { none, width, widthAndHeight };
 
-/// A row of a form: a label, which may be missing, and controls side by side; one that stretches has one
-/// control. A row whose controls are all hidden takes no room.
+/// A row of a form: an optional label, and controls side by side. A row that stretches has exactly one
+/// control. A row whose controls are all hidden takes no space.
 struct FormRow {
     NSTextField* label;
     std::vector<NSView*> controls;
     CGFloat gapAbove;
     Stretch stretch = Stretch::none;
-    CGFloat leastHeight = 0;
+    CGFloat minimumHeight = 0;
 };
 
-/// Lays a form out, from the top of a flipped view: labels end at one line, controls begin at another. The
-/// views belong to the form's view.
+/// Lays out a form from the top of a flipped view, with labels aligned right in one column and controls in
+/// the next. The form's view owns the views.
 class FormLayout {
   public:
     void addRow(FormRow row);
@@ -28,7 +28,7 @@ class FormLayout {
     /// A text above the form, wrapped to its whole width.
     void setIntroduction(NSTextField* introduction) { introduction_ = introduction; }
 
-    /// Gives every view its place in a form of that size.
+    /// Sets the frames of all views for a form of that size.
     void layOut(NSSize size) const;
 
     [[nodiscard]] const std::vector<FormRow>& rows() const { return rows_; }

@@ -13,8 +13,8 @@ namespace {
 
 constexpr CGFloat margin = 20;
 constexpr CGFloat columnGap = 10;
-constexpr CGFloat lowestStretchedRow = 84;
-constexpr CGFloat narrowestLabelShare = 0.25;
+constexpr CGFloat minimumStretchedHeight = 84;
+constexpr CGFloat minimumLabelShare = 0.25;
 
 bool isVisible(const FormRow& row) {
     return std::ranges::any_of(row.controls, [](NSView* control) { return ![control isHidden]; });
@@ -37,7 +37,7 @@ void FormLayout::addRow(FormRow row) {
 void FormLayout::layOut(NSSize size) const {
     const Columns formColumns = columns(size.width);
     const CGFloat introductionWidth = size.width - 2 * margin;
-    const CGFloat stretchedHeight = std::max(lowestStretchedRow, heightLeft(size, formColumns));
+    const CGFloat stretchedHeight = std::max(minimumStretchedHeight, heightLeft(size, formColumns));
     CGFloat y = margin + introductionHeight(size.width);
     [introduction_ setFrame:NSMakeRect(margin, margin, introductionWidth, y - margin)];
     for (const FormRow& row : rows_) {
@@ -50,10 +50,10 @@ void FormLayout::layOut(NSSize size) const {
     }
 }
 
-// Labels can wrap and most controls cannot, so the controls have the first say.
+// Labels can wrap and most controls cannot, so the controls get their width first.
 FormLayout::Columns FormLayout::columns(CGFloat width) const {
     const CGFloat room = width - 2 * margin - columnGap;
-    const CGFloat leftByControls = std::max(room - controlWidth(), std::floor(room * narrowestLabelShare));
+    const CGFloat leftByControls = std::max(room - controlWidth(), std::floor(room * minimumLabelShare));
     const CGFloat labels = std::min(labelWidth(), leftByControls);
     return {.labelWidth = labels, .controlX = margin + labels + columnGap, .controlWidth = room - labels};
 }
@@ -78,15 +78,15 @@ CGFloat FormLayout::introductionHeight(CGFloat width) const {
     return introduction_ == nil ? 0 : sizeOfWrappedText(introduction_, width - 2 * margin).height;
 }
 
-// A control that is too wide for its column reaches to the left where no label is.
+// A control that is too wide for its column extends to the left if there is no label.
 CGFloat FormLayout::flowWidth(const FormRow& row, const Columns& columns) {
-    const bool mayReachOut = row.label == nil && row.stretch == Stretch::none;
-    return mayReachOut ? std::max(columns.controlWidth, widestControl(row)) : columns.controlWidth;
+    const bool mayExtendLeft = row.label == nil && row.stretch == Stretch::none;
+    return mayExtendLeft ? std::max(columns.controlWidth, widestControl(row)) : columns.controlWidth;
 }
 
 CGFloat FormLayout::heightOf(const FormRow& row, const Columns& columns) {
     const CGFloat label = row.label == nil ? 0 : sizeOfWrappedText(row.label, columns.labelWidth).height;
-    return std::max({row.leastHeight, label, ControlFlow(row.controls, flowWidth(row, columns)).height()});
+    return std::max({row.minimumHeight, label, ControlFlow(row.controls, flowWidth(row, columns)).height()});
 }
 
 CGFloat FormLayout::heightLeft(NSSize size, const Columns& columns) const {

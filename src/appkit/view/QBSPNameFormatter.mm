@@ -2,13 +2,13 @@
 
 namespace {
 
-const NSUInteger longestName = 200;
+const NSUInteger maximumLength = 200;
 
 NSString* shortened(NSString* name) {
-    if ([name length] <= longestName)
+    if ([name length] <= maximumLength)
         return name;
-    // Not between the halves of a character that takes two units.
-    const NSUInteger end = [name rangeOfComposedCharacterSequenceAtIndex:longestName].location;
+    // Never cuts a composed character in two.
+    const NSUInteger end = [name rangeOfComposedCharacterSequenceAtIndex:maximumLength].location;
     return [[name substringToIndex:end] stringByAppendingString:@"\u2026"];
 }
 

@@ -7,7 +7,8 @@
 
 #include <memory>
 
-/// The pane's main view: a form of all its controls. It owns them; their texts are set by others.
+/// The pane's main view: a form with all of the pane's controls. It owns the controls; others set their
+/// texts.
 @interface QBSPPaneView : NSView {
     qbsp::appkit::ViewControls controls;
     NSTextField* reasonField;
@@ -19,21 +20,21 @@
 /// The pane's controls.
 - (const qbsp::appkit::ViewControls&)controls;
 
-/// The button that is the view's own, whose title and action the plug-in sets.
+/// The view's own button, which is not one of the pane's controls. The plug-in sets its title and action.
 - (NSButton*)addButton;
 
 /// The names of the pane's controls, in the order of its fields.
 - (NSArray*)controlNames;
 
-/// The control of one of these names, or of "addButton"; nil for any other. It is also found by key, by a
-/// host that knows no more of the view than names.
+/// The control with one of these names, or with the name "addButton"; nil for any other name. Key-value
+/// coding finds it too, for hosts that know only names.
 - (NSView*)controlNamed:(NSString*)name;
 
-/// To be called when texts were set or controls hidden: lays the form out again, and gives the controls
-/// without a title the text of their labels as accessibility label.
+/// Must be called after texts were set or controls hidden. Lays out the form again, and gives each control
+/// without a title its label's text as accessibility label.
 - (void)contentsDidChange;
 
-/// The first visible and the last control in the order of the Tab key.
+/// The first visible control and the last control, in tab order.
 - (NSView*)firstControl;
 - (NSView*)lastControl;
 

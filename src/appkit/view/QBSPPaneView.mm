@@ -13,7 +13,7 @@ using qbsp::appkit::ViewControls;
 
 static const NSSize initialSize = {580, 560};
 static const NSSize recorderSize = {220, 26};
-static const CGFloat narrowestFlagColumn = 70;
+static const CGFloat minimumFlagColumnWidth = 70;
 static const CGFloat headerPadding = 16;
 static const CGFloat gap = 10;
 static const CGFloat groupGap = 18;
@@ -28,7 +28,7 @@ static NSString* nsName(const char* name) {
     return [NSString stringWithUTF8String:name];
 }
 
-// Most controls of a kind are alike.
+// How most controls of each kind are made.
 
 static void make(NSTextField*& label) {
     label = qbsp::appkit::makeLabel(NSRightTextAlignment);
@@ -94,7 +94,7 @@ static void make(QBSPRecorderView*& recorder) {
     form->addRow({c.visibilityLabel, {c.visibilityButton}, groupGap});
     form->addRow({c.takeNoteLabel, {c.noteHotKeyRecorder}, groupGap});
     form->addRow({c.copySelectionLabel, {c.clipHotKeyRecorder}, gap});
-    // A reason comes and goes, and nothing moves: there is always room for the longest.
+    // Reserves room for the longest reason, so that nothing moves when one appears or disappears.
     form->addRow({nil, {reasonField}, 4, Stretch::width, qbsp::appkit::heightOfLines(reasonField, 2)});
     form->addRow({c.hideAppLabel, {hideAppsScrollView}, 4, Stretch::widthAndHeight});
     form->addRow({nil, {addButton, c.resetFullscreenSettingsButton}, gap});
@@ -116,7 +116,7 @@ static void make(QBSPRecorderView*& recorder) {
         [order[index] setNextKeyView:order[(index + 1) % order.size()]];
 }
 
-// From top to bottom, as they are laid out. A text takes no keys, and of the list it is the table that does.
+// From top to bottom, as they are laid out. A text field takes no keys, and in the list the table does.
 - (std::vector<NSView*>)controlsInTabOrder {
     std::vector<NSView*> order;
     for (const FormRow& row : form->rows())
@@ -152,15 +152,15 @@ static void make(QBSPRecorderView*& recorder) {
     [self setNeedsDisplay:YES];
 }
 
-// The flags take the room of their title, and the names what is left. A column may take more room than its
-// width.
+// The column of flags is as wide as its title, and the column of names gets the rest. A column may take up
+// more space than its width.
 - (void)fitColumns {
     NSTableColumn* names =
         [controls.hideAppsTable tableColumnWithIdentifier:qbsp::appkit::nsString(qbsp::nameColumn.text)];
     NSTableColumn* flags =
         [controls.hideAppsTable tableColumnWithIdentifier:qbsp::appkit::nsString(qbsp::flagColumn.text)];
     const CGFloat title = [[flags headerCell] cellSize].width + headerPadding;
-    [flags setMaxWidth:MAX(narrowestFlagColumn, title)];
+    [flags setMaxWidth:MAX(minimumFlagColumnWidth, title)];
     [flags setMinWidth:[flags maxWidth]];
     [flags setWidth:[flags maxWidth]];
     const CGFloat spacing = NSMaxX([controls.hideAppsTable rectOfColumn:1]) - [names width] - [flags width];

@@ -4,7 +4,7 @@
 
 namespace qbsp::appkit {
 
-/// The room that the field's text needs when it is wrapped to at most that width.
+/// The size that the field's text needs when it is wrapped to at most that width.
 [[nodiscard]] NSSize sizeOfWrappedText(NSTextField* field, CGFloat width);
 
 /// The height of that many lines of the field's text.

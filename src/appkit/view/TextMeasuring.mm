@@ -8,9 +8,9 @@ namespace qbsp::appkit {
 
 namespace {
 
-// What a cell without a border keeps free at its left and right together.
+// The padding of a borderless cell, left and right together.
 constexpr CGFloat cellPadding = 6;
-constexpr CGFloat widest = 100000;
+constexpr CGFloat unlimited = 100000;
 
 NSSize measure(NSString* text, NSFont* font, CGFloat width) {
     NSDictionary* attributes = [NSDictionary dictionaryWithObject:font forKey:NSFontAttributeName];
@@ -18,7 +18,7 @@ NSSize measure(NSString* text, NSFont* font, CGFloat width) {
                                                                                     attributes:attributes]);
     const auto layout = Retained<NSLayoutManager*>::adopt([[NSLayoutManager alloc] init]);
     const auto container = Retained<NSTextContainer*>::adopt(
-        [[NSTextContainer alloc] initWithContainerSize:NSMakeSize(width, widest)]);
+        [[NSTextContainer alloc] initWithContainerSize:NSMakeSize(width, unlimited)]);
     [container.get() setLineFragmentPadding:0];
     [layout.get() addTextContainer:container.get()];
     [storage.get() addLayoutManager:layout.get()];
@@ -26,21 +26,21 @@ NSSize measure(NSString* text, NSFont* font, CGFloat width) {
     return [layout.get() usedRectForTextContainer:container.get()].size;
 }
 
-NSSize roomFor(NSSize text) {
+NSSize padded(NSSize text) {
     return NSMakeSize(std::ceil(text.width) + cellPadding, std::ceil(text.height) + 2);
 }
 
 } // namespace
 
-// A cell's own answer leaves the wrapping out on some systems.
+// Measured here, because on some systems a cell's own size ignores wrapping.
 NSSize sizeOfWrappedText(NSTextField* field, CGFloat width) {
     NSString* text = [[field stringValue] length] == 0 ? @" " : [field stringValue];
-    return roomFor(measure(text, [field font], width - cellPadding));
+    return padded(measure(text, [field font], width - cellPadding));
 }
 
 CGFloat heightOfLines(NSTextField* field, NSUInteger count) {
     NSString* lines = [@" " stringByPaddingToLength:2 * count - 1 withString:@"\n " startingAtIndex:0];
-    return roomFor(measure(lines, [field font], widest)).height;
+    return padded(measure(lines, [field font], unlimited)).height;
 }
 
 } // namespace qbsp::appkit

@@ -6,7 +6,8 @@
 extern "C" {
 #endif
 
-/// Calls the function with the context. Answers the exception that it raised, or nil. C++ exceptions pass.
+/// Calls the function with the context. Returns the exception that it raised, or nil. C++ exceptions pass
+/// through.
 NSException* GSTry(void (*function)(void*), void* context);
 
 #ifdef __cplusplus
@@ -14,7 +15,7 @@ NSException* GSTry(void (*function)(void*), void* context);
 
 namespace objc {
 
-/// Calls the function. Answers the exception that it raised, or nil. C++ exceptions pass.
+/// Calls the function. Returns the exception that it raised, or nil. C++ exceptions pass through.
 template <class Function>
 NSException* tryObjC(Function function) {
     return GSTry([](void* context) { (*static_cast<Function*>(context))(); }, &function);

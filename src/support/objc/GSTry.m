@@ -1,6 +1,6 @@
 #import "objc/GSTry.h"
 
-// In plain Objective-C: the personality of Objective-C++ under g++ crashes on a typed handler.
+// In plain Objective-C, because g++'s personality routine for Objective-C++ crashes on a typed handler.
 NSException* GSTry(void (*function)(void*), void* context) {
     @try {
         function(context);

@@ -8,7 +8,7 @@
 
 namespace processes {
 
-/// An application that runs.
+/// A running application.
 struct Application {
     Process process;
     std::string bundle;     ///< the path of its bundle
@@ -17,11 +17,11 @@ struct Application {
     friend bool operator==(const Application&, const Application&) = default;
 };
 
-/// The applications that really run in this session: living processes that execute the executable of a bundle
-/// with an identifier.
+/// The applications that are running in this session: live processes that execute the main executable of a
+/// bundle with an identifier.
 [[nodiscard]] std::vector<Application> runningApplications();
 
-/// Those of that bundle identifier.
+/// Those with that bundle identifier.
 [[nodiscard]] std::vector<Application> runningApplications(const std::string& identifier);
 
 /// The identifier of the bundle at that path; empty when there is no bundle, or none with an identifier.
@@ -33,11 +33,11 @@ struct Application {
 /// Why something could not be done, in a sentence.
 using Reason = std::string;
 
-/// Starts the application whose bundle is at that path, and waits for nothing; one that runs from there
-/// already is taken instead. Answers why when it cannot be started.
+/// Starts the application whose bundle is at that path, without waiting for it. If it is already running from
+/// there, returns that process. Returns the reason when it cannot be started.
 [[nodiscard]] std::variant<Process, Reason> launchApplication(const std::string& bundle);
 
-/// Asks the applications of that bundle identifier to quit, and waits for none.
+/// Asks the applications with that bundle identifier to quit, without waiting for them.
 void askApplicationsToQuit(const std::string& identifier);
 
 } // namespace processes

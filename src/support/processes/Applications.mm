@@ -106,7 +106,7 @@ std::variant<Process, Reason> launchApplication(const std::string& bundle) {
 
 void askApplicationsToQuit(const std::string& identifier) {
     for (const Application& application : runningApplications(identifier))
-        // One that has just gone need not be asked.
+        // An application that has just ended need not be asked.
         std::ignore = askToQuit(application.process);
 }
 

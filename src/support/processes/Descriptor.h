@@ -5,12 +5,12 @@
 
 namespace processes {
 
-/// Owns a file descriptor, and closes it.
+/// Owns a file descriptor, and closes it on destruction.
 class Descriptor {
 public:
     Descriptor() = default;
 
-    /// Takes over what a system call returned, which is negative when it failed.
+    /// Takes ownership of what a system call returned, which is negative when the call failed.
     explicit Descriptor(int number) : number_(number) {}
 
     Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, none)) {}

@@ -14,18 +14,18 @@ namespace processes {
 
 namespace {
 
-constexpr pid_t lastNumberOfTheSystem = 1;
+constexpr pid_t initProcess = 1;
 
 constexpr int fieldsBetweenStateAndStart = 19;
 
-/// The number of the error that kept something from being read.
+/// The errno value of a failed read.
 using Failure = int;
 
-/// The line in which the system describes the process.
+/// The contents of the process's file /proc/PID/stat.
 std::variant<std::string, Failure> lineOf(pid_t pid) {
     constexpr std::size_t longestLine = 4096;
     std::string line(longestLine, '\0');
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system's call is declared so.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system call is declared that way.
     const Descriptor file(open((folderOf(pid) / "stat").c_str(), O_RDONLY | O_CLOEXEC));
     const ssize_t length = file.isOpen() ? read(file.number(), line.data(), line.size()) : -1;
     if (length < 0)
@@ -34,7 +34,7 @@ std::variant<std::string, Failure> lineOf(pid_t pid) {
     return line;
 }
 
-// The name in parentheses may itself hold blanks and parentheses; what follows the last one is regular.
+// The name in parentheses may itself contain spaces and parentheses; what follows the last one is regular.
 std::istringstream fieldsAfterName(const std::string& line) {
     const auto endOfName = line.rfind(')');
     return std::istringstream(endOfName == std::string::npos ? std::string() : line.substr(endOfName + 1));
@@ -60,7 +60,7 @@ std::filesystem::path folderOf(pid_t pid) {
 }
 
 std::optional<Process> processOfNumber(pid_t pid) {
-    if (pid <= lastNumberOfTheSystem)
+    if (pid <= initProcess)
         return std::nullopt;
     const auto line = lineOf(pid);
     const auto* text = std::get_if<std::string>(&line);
@@ -81,7 +81,7 @@ bool hasEnded(const Process& process) {
 Descriptor endOf(const Process& process) {
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): Debian 12's header for the call lacks C linkage.
     Descriptor end(static_cast<int>(syscall(SYS_pidfd_open, process.pid, 0)));
-    // The number may have passed to another process before the descriptor was opened, but not since.
+    // The number may have been reused by another process before the descriptor was opened, but not since.
     return isAlive(process) ? std::move(end) : Descriptor();
 }
 

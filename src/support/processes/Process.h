@@ -10,7 +10,7 @@
 
 namespace processes {
 
-/// One process of this machine. Its start tells it from a later one that has the same number.
+/// A process on this machine. Its start tells it from a later process that has the same number.
 struct Process {
     pid_t pid = 0;
     unsigned long long start = 0; ///< in clock ticks since the machine was started
@@ -19,29 +19,29 @@ struct Process {
     friend auto operator<=>(const Process&, const Process&) = default;
 };
 
-/// The folder in which the system describes the process of that number.
+/// The folder below /proc of the process with that number.
 [[nodiscard]] std::filesystem::path folderOf(pid_t pid);
 
-/// The process of that number; none when there is none, or only what was left of one that ended.
+/// The process with that number; none when there is none or only a zombie is left.
 [[nodiscard]] std::optional<Process> processOfNumber(pid_t pid);
 
-/// True until it ends, whether or not its parent has taken notice; false also when it cannot be read.
+/// True until it ends, whether or not its parent has reaped it. Also false when its state cannot be read.
 [[nodiscard]] bool isAlive(const Process& process);
 
-/// True once it has ended, whether or not its parent has taken notice; false also when it cannot be read, for
-/// want of descriptors for instance.
+/// True once it has ended, whether or not its parent has reaped it. Also false when its state cannot be read,
+/// for instance for lack of descriptors.
 [[nodiscard]] bool hasEnded(const Process& process);
 
-/// A descriptor that becomes readable when the process ends, and stays so. Not open when it has ended
-/// already, when the system has no such descriptors (Linux before 5.3), and when it has none left. Programs
-/// that this one executes do not inherit it.
+/// A pidfd, which becomes and stays readable when the process ends. Not open when the process has already
+/// ended, when the system has no pidfds (Linux before 5.3), or when no descriptor is left. Programs that this
+/// one executes do not inherit it.
 [[nodiscard]] Descriptor endOf(const Process& process);
 
-/// The path of the file that the process of that number executes, also when that was replaced since; empty
-/// when the system does not say, as it does not of another user's.
+/// The path of the file that the process with that number executes, even if it was replaced since; empty when
+/// the system does not reveal it, as for another user's process.
 [[nodiscard]] std::string executableOf(pid_t pid);
 
-/// Asks the process to quit, and does not wait until it has. False when the request could not be delivered.
+/// Asks the process to quit, without waiting for it. False when the request could not be delivered.
 [[nodiscard]] bool askToQuit(const Process& process);
 
 } // namespace processes

@@ -8,14 +8,13 @@
 
 namespace processes {
 
-/// The living processes of this user that execute a file that is wanted, by its path. No more is read of any
-/// other process than that path, so that a machine with a thousand of them is looked through in a few
-/// milliseconds.
+/// This user's live processes that execute a wanted file, judged by its path. Of other processes only that
+/// path is read, so that searching a thousand processes takes a few milliseconds.
 [[nodiscard]] std::vector<Process>
 processesOfUser(const std::function<bool(const std::string& executable)>& isWanted);
 
-/// True when the process shares this one's folder for temporary files. Applications find each other through
-/// it: one that was given another folder belongs to another session and is out of reach.
+/// True when the process has the same folder for temporary files as this one. Applications find each other
+/// through that folder: one with another folder belongs to another session and cannot be reached.
 [[nodiscard]] bool sharesSession(const Process& process);
 
 } // namespace processes

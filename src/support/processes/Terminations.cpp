@@ -67,10 +67,10 @@ void Terminations::know(const Process& process, const std::string& identifier) {
     application.identifier = identifier;
     if (application.end.isOpen())
         return;
-    // Where the system cannot watch it now, it is tried again at the next look.
+    // If the system cannot watch it now, the next look tries again.
     application.end = endOf(process);
     epoll_event readable{EPOLLIN, {}};
-    // A look notices the end of what cannot be waited for.
+    // The end of what cannot be watched is noticed at the next look.
     std::ignore = epoll_ctl(wakeUp_.number(), EPOLL_CTL_ADD, application.end.number(), &readable);
 }
 

@@ -10,27 +10,28 @@
 
 namespace processes {
 
-/// Finds out which applications ended, each once and after its process has gone. Knows the applications that
-/// it was told of, by a look at those that run or by notices that they send themselves. Look and notice may
-/// come in any order, and an application that is killed sends no notice. The system wakes whoever waits for
-/// descriptor().
+/// Finds out which applications have ended, each once and after its process has gone. It knows the
+/// applications that it learned of, from a look at those running or from notifications that they post
+/// themselves. Looks and notifications may come in any order, and an application that is killed posts none. A
+/// caller waits on descriptor() to be woken.
 class Terminations {
 public:
     Terminations();
 
-    /// Readable while ended() has something to return of an application whose end the system reports; see
+    /// Readable while ended() has something to return about an application whose end the system reports; see
     /// endOf(). Negative when the system has no descriptor left.
     [[nodiscard]] int descriptor() const { return wakeUp_.number(); }
 
-    /// These applications run: the new ones among them are known from now on.
+    /// Adds those of the running applications that are not known yet.
     void learn(const std::vector<Application>& running);
 
-    /// A notice names the application of that process number, because it has started or is about to end. One
-    /// that is not known yet is known from now on, and may have gone already. An empty identifier is no
-    /// application's.
+    /// A notification named the application with that process number, because it has launched or is about to
+    /// terminate. Adds it if it is not known yet; its process may have gone already. An empty identifier is
+    /// ignored.
     void announced(pid_t pid, const std::string& identifier);
 
-    /// A notice says that an application of that identifier is about to end, and not which process it is.
+    /// A notification said that an application with that identifier is about to terminate, but not which
+    /// process it is.
     void announcedEnd(const std::string& identifier);
 
     /// The identifiers of the known applications that have ended since the last time.
@@ -46,7 +47,7 @@ private:
 
     Descriptor wakeUp_;
     std::map<Process, Known> known_;
-    /// What was reported last of each process number, for notices that come late.
+    /// The identifier last reported for each process number, for notifications that arrive late.
     std::map<pid_t, std::string> reported_;
 };
 

@@ -88,8 +88,8 @@ std::vector<std::string> arguments(std::string_view line) {
     }
 }
 
-// The first argument must hold no equals sign, and desktops look it up on the disk without resolving doubled
-// percent signs. A program with such a path is an argument of the shell.
+// The first argument must not contain an equals sign, and desktops look it up on disk without resolving
+// doubled percent signs. A program with such a path is therefore run by the shell.
 bool needsShell(std::string_view program) {
     return program.find_first_of("=%") != std::string_view::npos;
 }

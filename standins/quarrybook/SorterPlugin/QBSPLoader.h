@@ -2,10 +2,10 @@
 
 #import <Foundation/Foundation.h>
 
-/// Where the host's plug-ins find its registrar, by name.
+/// Gives the host's plug-ins its registrar; they look this class up by name.
 @interface QBSPLoader : NSObject
 
-/// The one registrar of the process.
+/// The process's only registrar.
 + (id)defaultLoader;
 
 @end

@@ -15,11 +15,11 @@ const KeyCombo commandA{.flags = modifiers::command, .code = keyA};
 
 class Recorder : public testing::Test {
 protected:
-    KeyAnswer press(VirtualKey key, CocoaFlags flags = 0) {
+    KeyOutcome press(VirtualKey key, CocoaFlags flags = 0) {
         return logic.keyPressed({.key = key, .flags = flags});
     }
 
-    KeyAnswer press(const KeyCombo& combo) { return press(combo.code, combo.flags); }
+    KeyOutcome press(const KeyCombo& combo) { return press(combo.code, combo.flags); }
 
     RecordingListener listener;
     RecorderLogic logic{listener};
@@ -36,15 +36,15 @@ protected:
 } // namespace
 
 TEST_F(Recorder, SpaceArmsIt) {
-    EXPECT_EQ(press(keys::space), KeyAnswer::done);
+    EXPECT_EQ(press(keys::space), KeyOutcome::handled);
 
     EXPECT_TRUE(logic.isArmed());
 }
 
 TEST_F(Recorder, LeavesOtherKeysToOthersWhileItIsIdle) {
-    EXPECT_EQ(press(controlC), KeyAnswer::notOurs);
-    EXPECT_EQ(press(keyF5), KeyAnswer::notOurs);
-    EXPECT_EQ(press(keys::escape), KeyAnswer::notOurs);
+    EXPECT_EQ(press(controlC), KeyOutcome::notHandled);
+    EXPECT_EQ(press(keyF5), KeyOutcome::notHandled);
+    EXPECT_EQ(press(keys::escape), KeyOutcome::notHandled);
 
     EXPECT_TRUE(listener.offered.empty());
 }
@@ -73,7 +73,7 @@ TEST_F(ArmedRecorder, OffersAFunctionKeyWithShift) {
 TEST_F(ArmedRecorder, RefusesATakenCombinationKeepsTheOldOneAndStillListens) {
     listener.takenCombo = controlC;
 
-    EXPECT_EQ(press(controlC), KeyAnswer::done);
+    EXPECT_EQ(press(controlC), KeyOutcome::handled);
 
     EXPECT_EQ(listener.shownRefusal, Refusal::taken);
     EXPECT_EQ(logic.combo(), commandA);
@@ -100,7 +100,7 @@ TEST_F(ArmedRecorder, ShowsTheReasonAgainWhenTheNextKeyIsRefusedToo) {
 }
 
 TEST_F(ArmedRecorder, ReportsAnAcceptedCombinationOnceAndStopsListening) {
-    EXPECT_EQ(press(controlC), KeyAnswer::done);
+    EXPECT_EQ(press(controlC), KeyOutcome::handled);
 
     EXPECT_EQ(listener.reported, std::vector{controlC});
     EXPECT_EQ(logic.combo(), controlC);
@@ -115,7 +115,7 @@ TEST_F(ArmedRecorder, DoesNotReportTheCombinationItAlreadyHolds) {
 }
 
 TEST_F(ArmedRecorder, CancelsAtEscAndKeepsTheCombination) {
-    EXPECT_EQ(press(keys::escape), KeyAnswer::done);
+    EXPECT_EQ(press(keys::escape), KeyOutcome::handled);
 
     EXPECT_FALSE(logic.isArmed());
     EXPECT_EQ(logic.combo(), commandA);
@@ -132,7 +132,7 @@ TEST_F(ArmedRecorder, ClearsAtDeleteOrBackspaceAndReportsTheEmptyCombination) {
     for (const VirtualKey key : {keys::backspace, keys::forwardDelete}) {
         logic.setCombo(commandA);
         logic.arm();
-        EXPECT_EQ(press(key), KeyAnswer::done);
+        EXPECT_EQ(press(key), KeyOutcome::handled);
         EXPECT_EQ(logic.combo(), empty);
         EXPECT_EQ(listener.reported.back(), empty);
         EXPECT_FALSE(logic.isArmed());
@@ -163,14 +163,14 @@ TEST_F(Recorder, DoesNotReportThatAnEmptyRecorderWasCleared) {
 }
 
 TEST_F(ArmedRecorder, MovesOnAtTab) {
-    EXPECT_EQ(press(keys::tab), KeyAnswer::nextView);
+    EXPECT_EQ(press(keys::tab), KeyOutcome::nextView);
 
     EXPECT_FALSE(logic.isArmed());
     EXPECT_EQ(logic.combo(), commandA);
 }
 
 TEST_F(ArmedRecorder, MovesBackAtShiftTab) {
-    EXPECT_EQ(press(keys::tab, modifiers::shift), KeyAnswer::previousView);
+    EXPECT_EQ(press(keys::tab, modifiers::shift), KeyOutcome::previousView);
 
     EXPECT_FALSE(logic.isArmed());
 }
@@ -238,7 +238,7 @@ TEST_F(Recorder, DistinguishesCodeZeroWithoutFlagsFromTheEmptyCombination) {
 TEST_F(Recorder, IgnoresTheRepetitionsOfAKeyThatIsHeldDown) {
     press(keys::space);
 
-    EXPECT_EQ(logic.keyPressed({.key = keys::space, .flags = 0, .isRepeat = true}), KeyAnswer::done);
+    EXPECT_EQ(logic.keyPressed({.key = keys::space, .flags = 0, .isRepeat = true}), KeyOutcome::handled);
 
     EXPECT_FALSE(listener.shownRefusal.has_value());
     EXPECT_TRUE(logic.isArmed());
@@ -247,7 +247,7 @@ TEST_F(Recorder, IgnoresTheRepetitionsOfAKeyThatIsHeldDown) {
 TEST_F(Recorder, LeavesTheRepetitionsAloneWhileItIsIdle) {
     const KeyPress heldSpace{.key = keys::space, .flags = 0, .isRepeat = true};
 
-    EXPECT_EQ(logic.keyPressed(heldSpace), KeyAnswer::notOurs);
+    EXPECT_EQ(logic.keyPressed(heldSpace), KeyOutcome::notHandled);
 
     EXPECT_FALSE(logic.isArmed());
 }

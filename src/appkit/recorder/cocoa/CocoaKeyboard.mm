@@ -9,7 +9,7 @@ namespace qbsp::recorder {
 
 namespace {
 
-/// Cocoa's events speak the Mac's terms already, and its modifier keys never arrive as keys.
+/// Cocoa's events already have the Mac's codes and flags, and modifier keys never arrive as key-down events.
 class CocoaKeyboard : public Keyboard {
   public:
     std::optional<KeyPress> press(NSEvent* event) override;

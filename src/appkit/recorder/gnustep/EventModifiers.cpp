@@ -5,7 +5,7 @@ namespace qbsp::recorder {
 void EventModifiers::flagsChanged(CocoaFlags modifier, CocoaFlags eventFlags) {
     const CocoaFlags switchedOn = eventFlags & ~lastEventFlags_;
     lastEventFlags_ = eventFlags;
-    // Several bits at once were switched on unseen, and say nothing about this key.
+    // Several flags at once were set without an event, and say nothing about this key.
     for (Meaning& meaning : meanings_)
         if (modifier != 0 && meaning.eventBit == switchedOn)
             meaning.modifier = modifier;

@@ -6,26 +6,26 @@
 
 namespace qbsp::recorder {
 
-/// Tells which modifier keys are really held from what GNUstep's events say.
+/// Works out from GNUstep's events which modifier keys are actually held.
 ///
-/// GNUstep lets a user choose which key sets which modifier bit, and out of the box Alt sets Command's, the
-/// right Alt Option's, Super Help's, and the right Super none at all. So a bit stands for the key that last
-/// switched it on; and a modifier key without a bit, which arrives like any other key, counts while it is
-/// down.
+/// GNUstep lets users choose which key sets which modifier flag. By default, Alt sets the Command flag, right
+/// Alt sets Option, Super sets Help, and right Super sets none at all. So each flag stands for the key that
+/// last set it; and a modifier key without a flag, which arrives like any other key, counts as held while it
+/// is down.
 class EventModifiers {
 public:
-    /// A modifier key was pressed or released, and the bits are now those.
+    /// A modifier key was pressed or released, and the event's flags are now those.
     void flagsChanged(CocoaFlags modifier, CocoaFlags eventFlags);
 
-    /// A modifier key arrived as a key that went down.
+    /// A modifier key arrived as a key-down event.
     void keyDown(CocoaFlags modifier) { heldKeys_ |= modifier; }
 
     void keyUp(CocoaFlags modifier) { heldKeys_ &= ~modifier; }
 
-    /// Nothing counts as held any more but what the next event says; what the bits stand for is kept.
+    /// No key counts as held until the next event reports it. What the flags stand for is kept.
     void forgetHeldKeys();
 
-    /// The modifiers held at an event with those bits.
+    /// The modifiers held at an event with those flags.
     [[nodiscard]] CocoaFlags held(CocoaFlags eventFlags) const;
 
 private:

@@ -10,7 +10,7 @@ namespace qbsp::recorder {
 
 namespace {
 
-/// The application's own connection to the X server; none where GNUstep draws elsewhere.
+/// The application's own connection to the X server; null where GNUstep does not use one.
 void* xDisplay() {
     GSDisplayServer* server = GSCurrentServer();
     return [server isKindOfClass:NSClassFromString(@"XGServer")] ? [server serverDevice] : nullptr;
@@ -39,7 +39,7 @@ std::optional<KeyPress> GnustepKeyboard::press(NSEvent* event) {
         observe(event);
         return std::nullopt;
     }
-    // GNUstep's own isARepeat is NO for repetitions too; what tells them is that no key-up precedes them.
+    // GNUstep's isARepeat is NO for repetitions too, so they are recognized by the missing key-up.
     const bool isRepeat = keyCode == downKey_;
     downKey_ = keyCode;
     return KeyPress{.key = virtualKeyOfX11(keyCode),

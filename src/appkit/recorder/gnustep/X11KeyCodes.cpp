@@ -12,7 +12,7 @@ struct KeyPair {
     VirtualKey mac;
 };
 
-// By the keys' places, row by row. Keys that only one of the two keyboards has are left out.
+// By the position of the keys, row by row. Keys that only one of the two keyboards has are left out.
 constexpr std::array pairs{
     // Escape and the function keys
     KeyPair{9, 53},

@@ -4,13 +4,13 @@
 
 namespace qbsp::recorder {
 
-/// A key by its number at the X server (that of Linux's input devices plus 8). 0 is no key.
+/// An X key code (that of Linux's input devices plus 8). 0 is no key.
 using X11KeyCode = unsigned;
 
 /// The same key on the Mac's keyboard; noKey when there is none.
 [[nodiscard]] VirtualKey virtualKeyOfX11(X11KeyCode keyCode);
 
-/// The same key at the X server; 0 when there is none.
+/// The X key code of the same key; 0 when there is none.
 [[nodiscard]] X11KeyCode x11KeyOfVirtual(VirtualKey key);
 
 } // namespace qbsp::recorder

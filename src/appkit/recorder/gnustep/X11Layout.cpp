@@ -53,9 +53,9 @@ std::string textOfKeySym(KeySym keySym) {
 } // namespace
 
 std::string X11Layout::text(X11KeyCode keyCode) const {
-    const std::string present = textOfKeySym(keySym(keyCode, presentGroup()));
-    // A key that a second layout leaves alone keeps what it has in the first.
-    return present.empty() ? textOfKeySym(keySym(keyCode, 0)) : present;
+    const std::string printed = textOfKeySym(keySym(keyCode, currentGroup()));
+    // A key that a second layout does not define prints what it prints in the first.
+    return printed.empty() ? textOfKeySym(keySym(keyCode, 0)) : printed;
 }
 
 bool X11Layout::isModifierKey(X11KeyCode keyCode) const {
@@ -74,7 +74,7 @@ unsigned long X11Layout::keySym(X11KeyCode keyCode, unsigned group) const {
                               static_cast<int>(group), 0);
 }
 
-unsigned X11Layout::presentGroup() const {
+unsigned X11Layout::currentGroup() const {
     XkbStateRec state{};
     if (display_ == nullptr || XkbGetState(static_cast<Display*>(display_), XkbUseCoreKbd, &state) != Success)
         return 0;

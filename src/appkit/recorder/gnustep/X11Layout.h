@@ -6,7 +6,7 @@
 
 namespace qbsp::recorder {
 
-/// What the X server's present keyboard layout makes of a key.
+/// The X server's current keyboard layout.
 class X11Layout {
 public:
     /// Takes an open connection (a Display*), which must outlive the layout. Without one, no key prints
@@ -24,7 +24,7 @@ public:
 
 private:
     [[nodiscard]] unsigned long keySym(X11KeyCode keyCode, unsigned group) const;
-    [[nodiscard]] unsigned presentGroup() const;
+    [[nodiscard]] unsigned currentGroup() const;
 
     void* display_;
 };

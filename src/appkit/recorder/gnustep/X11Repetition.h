@@ -2,9 +2,9 @@
 
 namespace qbsp::recorder {
 
-/// Has the X server tell an application that a held key was pressed again without telling that it was
-/// released before. GNUstep hides such a release only when the press has arrived with it. Takes an open
-/// connection (a Display*), or none and does nothing.
+/// Makes the X server repeat a held key without a release before each press. GNUstep hides such a release
+/// only when the press arrives together with it. Takes an open connection (a Display*); does nothing with
+/// null.
 void omitReleasesOfHeldKeys(void* display);
 
 } // namespace qbsp::recorder

@@ -10,14 +10,14 @@ namespace qbsp::appkit {
 struct TerminationReceiverParts;
 }
 
-/// Passes the workspace's notices of terminations on to its observer.
+/// Forwards the workspace's termination notifications to its observer.
 @interface QBSPTerminationReceiver : NSObject {
     std::unique_ptr<qbsp::appkit::TerminationReceiverParts> parts;
 }
 
 - (id)initWithObserver:(std::weak_ptr<qbsp::platform::TerminationObserver>)anObserver;
 
-/// Reports the bundle identifier that the notification's user information has; none when it has none.
+/// Reports the bundle identifier in the notification's userInfo, if there is one.
 - (void)applicationTerminated:(NSNotification*)notification;
 
 @end

@@ -11,7 +11,7 @@
 namespace qbsp::appkit {
 
 void AppKitServiceManagement::loginItemSetEnabled(platform::BundleIdentifier identifier, bool enabled) {
-    // Whether it worked shows in what runs afterwards.
+    // Whether it worked shows in what is running afterwards.
     std::ignore = SMLoginItemSetEnabled((CFStringRef)nsString(identifier.text), enabled);
 }
 

@@ -8,7 +8,7 @@ namespace qbsp::appkit {
 std::optional<platform::URL> groupContainerURL(platform::ApplicationGroup group) {
     NSFileManager* manager = [NSFileManager defaultManager];
     const SEL container = @selector(containerURLForSecurityApplicationGroupIdentifier:);
-    if (![manager respondsToSelector:container]) // before 10.8 there are no groups
+    if (![manager respondsToSelector:container]) // there are no groups before 10.8
         return std::nullopt;
     return urlFromNSURL([manager containerURLForSecurityApplicationGroupIdentifier:nsString(group.text)]);
 }

@@ -20,7 +20,7 @@ class LaunchedApplication final : public platform::RunningApplication {
 
 } // namespace
 
-// No option has a counterpart here: an application decides itself whether it becomes the active one.
+// None of the options has a counterpart here: an application decides itself whether to become active.
 platform::LaunchResult launchApplication(const platform::URL& url, platform::LaunchOptions) {
     const auto launched = processes::launchApplication(url.path());
     if (const auto* reason = std::get_if<processes::Reason>(&launched))

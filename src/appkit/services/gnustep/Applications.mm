@@ -21,7 +21,7 @@ constexpr std::int32_t kLSApplicationNotFoundErr = -10814;
 
 } // namespace
 
-// There is no database to enter it in: an application is found by its place.
+// There is no database to register with: applications are found by their paths.
 std::int32_t AppKitLaunchServices::registerURL(const platform::URL& url, platform::RegistrationUpdate) {
     return processes::identifierOfBundle(url.path()).empty() ? kLSApplicationNotFoundErr : noErr;
 }

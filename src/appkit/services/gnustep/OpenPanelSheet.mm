@@ -6,7 +6,7 @@ namespace qbsp::appkit {
 
 namespace {
 
-/// A block as its caller sees it, made by hand since g++ has none. It is not copied.
+/// The layout of a block, written by hand because g++ has no blocks. It must not be copied.
 struct ResultBlock {
     void* isa;
     int flags;
@@ -23,7 +23,7 @@ void invokeHandler(void* block, NSInteger result) {
 
 void showSheet(NSOpenPanel* panel, NSWindow* window, std::function<void(std::int64_t)> handler) {
     ResultBlock block{nullptr, 0, 0, invokeHandler, std::move(handler)};
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a block is what begins like one.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a block is anything with its layout.
     auto* handlerBlock = reinterpret_cast<GSSavePanelCompletionHandler>(&block);
     [panel beginSheetModalForWindow:window completionHandler:handlerBlock];
 }

@@ -12,15 +12,15 @@
 
 NSString* const QBSPApplicationFoundRunning = @"QBSPApplicationFoundRunning";
 
-// An application announces its end before it has ended. A system that cannot watch it is asked again after
-// this time.
+// An application announces its end before its process has ended. Where the system cannot watch the process,
+// it is checked again after this time, in seconds.
 static const NSTimeInterval timeToEnd = 0.05;
 
 // An alert or a panel may be open meanwhile.
 static const std::array<NSString*, 3> modes{NSDefaultRunLoopMode, NSModalPanelRunLoopMode,
                                             NSEventTrackingRunLoopMode};
 
-// What the user information of the workspace's notices here has of an application, besides its identifier.
+// Keys in the userInfo of GNUstep's workspace notifications, besides the bundle identifier.
 static NSString* const applicationPath = @"NSApplicationPath";
 static NSString* const applicationProcess = @"NSApplicationProcessIdentifier";
 
@@ -37,7 +37,7 @@ static std::string text(id object) {
     return qbsp::appkit::utf8([object isKindOfClass:[NSString class]] ? object : nil);
 }
 
-/// 0 when the notice does not say.
+/// 0 when the notification does not have it.
 static pid_t processNumber(NSDictionary* application) {
     id number = [application objectForKey:applicationProcess];
     return [number isKindOfClass:[NSNumber class]] ? [number intValue] : 0;
@@ -51,11 +51,11 @@ static std::string identifierIn(NSDictionary* application) {
                : identifier;
 }
 
-static NSNotificationCenter* workspaceNotices() {
+static NSNotificationCenter* workspaceNotificationCenter() {
     return [[NSWorkspace sharedWorkspace] notificationCenter];
 }
 
-/// The run loop takes a descriptor as a pointer.
+/// The run loop takes a descriptor cast to a pointer.
 static void* eventOf(const processes::Terminations& terminations) {
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast,performance-no-int-to-ptr)
     return reinterpret_cast<void*>(static_cast<std::intptr_t>(terminations.descriptor()));
@@ -75,7 +75,7 @@ static void* eventOf(const processes::Terminations& terminations) {
 
 - (void)invalidate {
     parts->observer.reset();
-    [workspaceNotices() removeObserver:self];
+    [workspaceNotificationCenter() removeObserver:self];
     [[NSNotificationCenter defaultCenter] removeObserver:self];
     [NSObject cancelPreviousPerformRequestsWithTarget:self];
     for (NSString* mode : modes)
@@ -86,7 +86,7 @@ static void* eventOf(const processes::Terminations& terminations) {
 }
 
 - (void)reportEnds {
-    // The observer may end the observation, and with it this object, while it is notified.
+    // The observer may stop observing, and so release this object, while it is being notified.
     [[self retain] autorelease];
     if (parts->observer.expired())
         return [self invalidate];
@@ -108,7 +108,7 @@ static void* eventOf(const processes::Terminations& terminations) {
 
 - (void)applicationWasFoundRunning {
     [self lookAtRunningApplications];
-    // What has ended since is reported by the run loop, never in the midst of the observer's question.
+    // What has ended meanwhile is reported from the run loop, never in the middle of the observer's own call.
     [self reportEndsAfterDelay:0];
 }
 
@@ -117,15 +117,15 @@ static void* eventOf(const processes::Terminations& terminations) {
         parts = std::make_unique<qbsp::appkit::TerminationReceiverParts>();
         parts->observer = std::move(anObserver);
         [self awaitDescriptor];
-        // First the notices and then the look: an application that starts in between is not missed.
-        [workspaceNotices() addObserver:self
-                               selector:@selector(applicationWillTerminate:)
-                                   name:name
-                                 object:nil];
-        [workspaceNotices() addObserver:self
-                               selector:@selector(applicationDidLaunch:)
-                                   name:NSWorkspaceDidLaunchApplicationNotification
-                                 object:nil];
+        // Subscribes before it looks, so that an application that starts in between is not missed.
+        [workspaceNotificationCenter() addObserver:self
+                                          selector:@selector(applicationWillTerminate:)
+                                              name:name
+                                            object:nil];
+        [workspaceNotificationCenter() addObserver:self
+                                          selector:@selector(applicationDidLaunch:)
+                                              name:NSWorkspaceDidLaunchApplicationNotification
+                                            object:nil];
         [[NSNotificationCenter defaultCenter] addObserver:self
                                                  selector:@selector(applicationWasFoundRunning)
                                                      name:QBSPApplicationFoundRunning

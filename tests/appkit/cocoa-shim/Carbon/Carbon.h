@@ -2,7 +2,7 @@
 
 #include <CoreServices/CoreServices.h>
 
-// The keyboard layout services, as far as the recorder names them.
+// The keyboard layout services, as far as the recorder uses them.
 
 typedef unsigned char UInt8;
 typedef unsigned short UInt16;

@@ -1,6 +1,6 @@
 #pragma once
 
-// As much of CoreFoundation as the adapters name, for a check of their syntax on other systems.
+// As much of CoreFoundation as the adapters use, to check their syntax on other systems.
 
 typedef const void* CFTypeRef;
 typedef CFTypeRef CFPropertyListRef;
