@@ -12,11 +12,13 @@ function(tests_below folder result)
 endfunction()
 
 # Makes all tests below the folder require those fixtures and run in an environment with those modifications. CMake can
-# set a test's properties only in the test's own folder, but CTest reads this file last and knows all tests.
+# set a test's properties only in the test's own folder, but CTest reads this file last and knows all tests. A later call
+# wins.
 function(every_test_below folder fixtures environment)
     tests_below("${folder}" names)
     list(JOIN names "\" \"" names)
-    set(file "${CMAKE_CURRENT_BINARY_DIR}/EveryTest.cmake")
+    cmake_path(GET folder FILENAME name)
+    set(file "${CMAKE_CURRENT_BINARY_DIR}/EveryTestIn-${name}.cmake")
     file(WRITE "${file}" "set_tests_properties(\"${names}\" PROPERTIES FIXTURES_REQUIRED \"${fixtures}\" "
          "ENVIRONMENT_MODIFICATION \"${environment}\")\n")
     set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${file}")

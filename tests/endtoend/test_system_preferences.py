@@ -1,12 +1,15 @@
 """An independent host of preference panes, SystemPreferences, shows and leaves the pane again and again."""
 
+import os
 import unittest
 
 from controls import Controls
 from host import Host
 from session import HIDE_LIST, PANE, SOLO_SORTER, Session
 
-PROGRAM = "/usr/lib/GNUstep/Applications/SystemPreferences.app/SystemPreferences"
+# The plug-in of a sanitized build needs a library that this program was not built with.
+PROGRAM = ["env", "LD_PRELOAD=" + os.environ["FOREIGN_HOST_PRELOAD"],
+           "/usr/lib/GNUstep/Applications/SystemPreferences.app/SystemPreferences"]
 FIRST_CHECK_BOX = {"name": "hideAppsTable", "column": "2", "row": 0}
 # AppKit says that it loaded what finds the controls, and the pane that this host has no registrar.
 EXPECTED = ("user defined AppKit bundles", "Loaded '", "ERROR: SorterPlugin is not available!")
@@ -18,7 +21,7 @@ class SystemPreferencesTest(unittest.TestCase):
         self.session.set_domain(SOLO_SORTER, {HIDE_LIST: {"Atlas": False, "Books": True}})
         (self.session.home / "GNUstep/Library/Bundles" / PANE.name).symlink_to(PANE)
         self.controls = Controls(self.session, "hideAppsTable")
-        self.host = Host(self.session, PROGRAM, "-NSExceptionHandlerMask", "1", *self.controls.options)
+        self.host = Host(self.session, *PROGRAM, "-NSExceptionHandlerMask", "1", *self.controls.options)
 
     def test_shows_and_leaves_the_pane_again_and_again(self):
         for atlas in (True, False, True):
