@@ -13,11 +13,17 @@ command -v clang-tidy >/dev/null || {
 headers=$(find "$root/src" "$root/standins" -name '*.h' -print0 | sort -z | xargs -0 cat "$root/.clang-tidy" | sha256sum)
 
 # Off in Objective-C, whose truth values are numbers, whose nil is no nullptr, whose objects are owned by retain and
-# release, and which logs and formats by functions of C.
-objc=-readability-implicit-bool-conversion,-modernize-use-nullptr,-cppcoreguidelines-owning-memory,-cppcoreguidelines-pro-type-vararg
-# Off in the stand-ins' Objective-C as well: a program has the command line as an array of C's, hands it on to AppKit
-# unconst, and prints to C's streams between what AppKit prints there.
-standins=-cppcoreguidelines-pro-bounds-pointer-arithmetic,-cppcoreguidelines-pro-bounds-array-to-pointer-decay,-cppcoreguidelines-pro-type-const-cast
+# release, whose selectors are pointers, and which logs and formats by functions of C.
+objc=-readability-implicit-bool-conversion,-modernize-use-nullptr,-cppcoreguidelines-owning-memory
+objc+=,-misc-misplaced-const,-cppcoreguidelines-pro-type-vararg
+# Off in the stand-ins' Objective-C as well. Programs have their command line as C's array and hand it on to AppKit; an
+# exception ends them.
+standins=-cppcoreguidelines-pro-bounds-pointer-arithmetic,-cppcoreguidelines-pro-type-const-cast
+standins+=,-readability-non-const-parameter,-bugprone-exception-escape
+# They print to C's streams, between what AppKit prints there, and in English.
+standins+=,-cert-err33-c,-clang-analyzer-optin.osx.cocoa.localizability.NonLocalizedStringChecker
+# What a signal's handler or the end of the program needs is global, and a store is asked as an object.
+standins+=,-cppcoreguidelines-avoid-non-const-global-variables,-readability-convert-member-functions-to-static
 
 check() {
     local source=$1 stamp options=()

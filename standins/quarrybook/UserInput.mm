@@ -1,6 +1,7 @@
 #import "UserInput.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace quarrybook {
@@ -14,7 +15,7 @@ struct Key {
 };
 
 // X keycodes of a PC keyboard, as the evdev driver numbers them.
-constexpr Key keys[] = {
+constexpr auto keys = std::to_array<Key>({
     {0, 38, 'a'},       {1, 39, 's'},       {2, 40, 'd'},       {3, 41, 'f'},      {4, 43, 'h'},
     {5, 42, 'g'},       {6, 52, 'z'},       {7, 53, 'x'},       {8, 54, 'c'},      {9, 55, 'v'},
     {11, 56, 'b'},      {12, 24, 'q'},      {13, 25, 'w'},      {14, 26, 'e'},     {15, 27, 'r'},
@@ -29,7 +30,7 @@ constexpr Key keys[] = {
     {99, 69, 0xf706},   {100, 74, 0xf70b},  {101, 75, 0xf70c},  {103, 95, 0xf70e}, {109, 76, 0xf70d},
     {111, 96, 0xf70f},  {118, 70, 0xf707},  {120, 68, 0xf705},  {122, 67, 0xf704}, {123, 113, 0xf702},
     {124, 114, 0xf703}, {125, 116, 0xf701}, {126, 111, 0xf700},
-};
+});
 
 // By default, AppKit here reports Alt as Command and Super as Help.
 std::uint64_t eventFlags(std::uint64_t flags) {

@@ -29,7 +29,7 @@ template <class View, class Matches> View* findView(NSView* view, Matches matche
 #pragma mark - Windows
 
 Outcome press(const Scene& scene, const std::string& title) {
-    NSButton* titled = findView<NSButton>([scene.frontWindow() contentView], [&](NSButton* candidate) {
+    auto* titled = findView<NSButton>([scene.frontWindow() contentView], [&](NSButton* candidate) {
         return [[candidate title] isEqual:string(title)] && [candidate isEnabled];
     });
     if (titled == nil)
@@ -56,7 +56,7 @@ bool chooseInLastColumn(NSBrowser* browser, NSString* path) {
 
 Outcome choose(const std::string& file) {
     NSWindow* panel = [NSApp modalWindow];
-    NSBrowser* browser = findView<NSBrowser>([panel contentView], [](NSBrowser*) { return true; });
+    auto* browser = findView<NSBrowser>([panel contentView], [](NSBrowser*) { return true; });
     if (browser == nil)
         throw ScenarioError("there is no panel to choose in");
     NSString* path = string(file);
