@@ -95,11 +95,11 @@ class StoresTest(SorterTest):
         self.session.domain_file(SORTER).symlink_to(folder / "domain.plist")
         self.start_by_hand(SORTER)
         host = self.begin("select", "reset", "wait 60")
-        self.wait_told(LIST, f"{HIDE_LIST}=none")
+        self.wait_logged(LIST, f"{HIDE_LIST}=none")
 
         folder.mkdir()
 
-        self.wait_told(LIST, '"Films"=YES')
+        self.wait_logged(LIST, '"Films"=YES')
         told = [line.split(".plist: ", 1)[1] for line in host.lines() if f"{SORTER}.plist" in line]
         self.assertEqual(told, ["could not be written: No such file or directory; what was set is kept in memory, and "
                                 "saved as soon as that is possible", "what was set was saved after all"])

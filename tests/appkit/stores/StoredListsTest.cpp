@@ -315,6 +315,18 @@ TEST_F(StoredListsTest, AreLoggedAsLostWhenTheLastTryFails) {
                                 "application quits")});
 }
 
+TEST_F(StoredListsTest, AreLoggedAsLostWhenASaveFailsAfterTheLastTry) {
+    lists.saveAtEnd(patience);
+    lists.set(file, "ours", true);
+    const FullDisk disk;
+
+    EXPECT_FALSE(lists.save(patience));
+
+    EXPECT_EQ(log,
+              std::vector{inLog("could not be written: File too large; what was set is lost, because the "
+                                "application quits")});
+}
+
 TEST_F(StoredListsTest, AreSavedAtTheEndAlsoUnderALockThatIsNotGivenBack) {
     files::Patience none{0ms};
     const files::DefaultsLock lock(folder, none);

@@ -1,30 +1,14 @@
 #pragma once
 
-#include "platform/Value.h"
+#include "appkit/stores/gnustep/ParsedPropertyList.h"
 
-#include <cstddef>
 #include <string>
 #include <string_view>
-#include <variant>
 
 namespace qbsp::appkit {
 
-/// Containers may lie in each other this deep.
-inline constexpr std::size_t deepestNesting = 512;
-
-/// Why bytes are no property list that could be kept as it is.
-enum class Fault {
-    notAPropertyList,
-    nestedTooDeeply,
-    moreThanOneRoot,
-    tooLarge, ///< it names parts so often that it would need too much memory
-};
-
 /// What follows the file's name in a line of the log: "is ...".
 [[nodiscard]] std::string_view wordsFor(Fault fault);
-
-/// The value, which exists, or why there is none.
-using Parsed = std::variant<platform::Value, Fault>;
 
 /// The property list in the bytes: XML in any encoding, binary, or text as GNUstep and OpenStep write it.
 /// Each value keeps its kind; an integer is of the first kind that it fits: 32 bits, 64 bits, unsigned 64

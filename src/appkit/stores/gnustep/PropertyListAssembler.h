@@ -1,6 +1,6 @@
 #pragma once
 
-#include "appkit/stores/gnustep/PropertyList.h"
+#include "appkit/stores/gnustep/ParsedPropertyList.h"
 
 #include <optional>
 #include <string>

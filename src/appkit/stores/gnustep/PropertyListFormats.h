@@ -1,6 +1,9 @@
 #pragma once
 
-#include "appkit/stores/gnustep/PropertyList.h"
+#include "appkit/stores/gnustep/ParsedPropertyList.h"
+
+#include <string>
+#include <string_view>
 
 namespace qbsp::appkit {
 

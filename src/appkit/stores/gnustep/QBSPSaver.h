@@ -4,11 +4,13 @@
 
 /// Saves what waits from the run loop, and for the last time when the application quits.
 @interface QBSPSaver : NSObject {
+    bool (*save)();
+    void (*saveAtEnd)();
     NSTimer* timer;
 }
 
-/// The one of this process, which is never released.
-+ (QBSPSaver*)saver;
+/// Calls the first to save, which returns false when something still waits, and the second at the end.
+- (id)initWithSave:(bool (*)())aSave atEnd:(void (*)())aSaveAtEnd;
 
 /// Saves as soon as the run loop runs.
 - (void)saveSoon;

@@ -1,26 +1,20 @@
 #import "appkit/stores/gnustep/QBSPSaver.h"
 
-#include "appkit/stores/gnustep/Saving.h"
-
 #import <AppKit/AppKit.h>
 
 static const NSTimeInterval betweenTries = 5;
 
 @implementation QBSPSaver
 
-+ (QBSPSaver*)saver {
-    static QBSPSaver* saver = nil;
-    if (saver == nil)
-        saver = [[QBSPSaver alloc] init];
-    return saver;
-}
-
-- (id)init {
-    if ((self = [super init]) != nil)
+- (id)initWithSave:(bool (*)())aSave atEnd:(void (*)())aSaveAtEnd {
+    if ((self = [super init]) != nil) {
+        save = aSave;
+        saveAtEnd = aSaveAtEnd;
         [[NSNotificationCenter defaultCenter] addObserver:self
                                                  selector:@selector(applicationWillTerminate:)
                                                      name:NSApplicationWillTerminateNotification
                                                    object:nil];
+    }
     return self;
 }
 
@@ -48,14 +42,12 @@ static const NSTimeInterval betweenTries = 5;
 
 - (void)save:(NSTimer*)aTimer {
     timer = nil;
-    // Nobody waits for this, so that it need not wait for others.
-    files::Patience none{files::Patience::Duration(0)};
-    if (!qbsp::appkit::storedLists().save(none))
+    if (!save())
         [self saveLater];
 }
 
 - (void)applicationWillTerminate:(NSNotification*)notification {
-    qbsp::appkit::saveAtEnd();
+    saveAtEnd();
 }
 
 @end

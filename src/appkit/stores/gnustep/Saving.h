@@ -22,7 +22,4 @@ void saveNow();
 /// As saveNow(), for one file; what cannot be saved is forgotten, and the result false.
 [[nodiscard]] bool saveOrForget(const std::filesystem::path& file);
 
-/// The last try: what cannot be saved now is lost.
-void saveAtEnd();
-
 } // namespace qbsp::appkit

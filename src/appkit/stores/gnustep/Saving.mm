@@ -2,10 +2,10 @@
 
 #include "appkit/bridge/Strings.h"
 #include "appkit/stores/OnceSaved.h"
+#include "appkit/stores/gnustep/BoundDefaults.h"
 #import "appkit/stores/gnustep/QBSPSaver.h"
-#include "appkit/stores/gnustep/StandardDefaults.h"
 
-#include <tuple>
+#include <memory>
 
 namespace qbsp::appkit {
 
@@ -16,17 +16,35 @@ files::Patience& patienceOfUser() {
     return patience;
 }
 
-StoredLists* makeStoredLists() {
-    boundStandardDefaults();
-    return new StoredLists(utf8(GSDefaultsRootForUser(NSUserName())),
-                           [](const std::string& line) { NSLog(@"%@", nsString(line)); });
+std::unique_ptr<StoredLists> makeStoredLists() {
+    auto lists = std::make_unique<StoredLists>(utf8(GSDefaultsRootForUser(NSUserName())),
+                                               [](const std::string& line) { NSLog(@"%@", nsString(line)); });
+    boundStandardDefaults(*lists);
+    return lists;
+}
+
+bool saveWithoutWaiting() {
+    // Nobody waits for this, so that it need not wait for others.
+    files::Patience none{files::Patience::Duration(0)};
+    return storedLists().save(none);
+}
+
+void saveAtEnd() {
+    // Leaving the pane may have used up the other patience just now, on the same lock.
+    files::Patience little{std::chrono::milliseconds(400)};
+    storedLists().saveAtEnd(little);
+}
+
+QBSPSaver* saver() {
+    static QBSPSaver* const saver = [[QBSPSaver alloc] initWithSave:saveWithoutWaiting atEnd:saveAtEnd];
+    return saver;
 }
 
 } // namespace
 
 StoredLists& storedLists() {
     // It outlives whatever may still have something to save when the process ends.
-    static StoredLists& lists = *makeStoredLists();
+    static StoredLists& lists = *makeStoredLists().release();
     return lists;
 }
 
@@ -35,22 +53,16 @@ std::filesystem::path hostFile() {
 }
 
 void saveSoon() {
-    [[QBSPSaver saver] saveSoon];
+    [saver() saveSoon];
 }
 
 void saveNow() {
     if (!storedLists().save(patienceOfUser()))
-        [[QBSPSaver saver] saveLater];
+        [saver() saveLater];
 }
 
 bool saveOrForget(const std::filesystem::path& file) {
     return storedLists().saveOrForget(file, patienceOfUser());
-}
-
-void saveAtEnd() {
-    // Leaving the pane may have used up the other patience just now, on the same lock.
-    files::Patience little{std::chrono::milliseconds(400)};
-    storedLists().saveAtEnd(little);
 }
 
 void onceSaved(const std::string& name, std::function<void()> function) {

@@ -7,11 +7,6 @@
 /// GNUstep's own view of the user's defaults in this process: what other code of the host reads and sets.
 namespace qbsp::appkit {
 
-/// Keeps GNUstep's defaults, from now on and everywhere in this process, from waiting for a lock that cannot
-/// be taken, and from reading files that they would take for empty or be ended by. What they hold back they
-/// do later.
-void boundStandardDefaults();
-
 /// Has the standard user defaults of this process return the value for the key, which is not saved yet.
 void showInStandardDefaults(const std::string& key, const platform::Value& value);
 

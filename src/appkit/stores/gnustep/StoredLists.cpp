@@ -73,7 +73,10 @@ void StoredLists::onceSaved(const std::string& name, std::function<void()> funct
 }
 
 bool StoredLists::save(files::Patience& patience) {
-    saveAll(patience, Unlocked::never, goesOnWaiting);
+    if (isEnding_)
+        saveAtEnd(patience);
+    else
+        saveAll(patience, Unlocked::never, goesOnWaiting);
     return !waits();
 }
 
@@ -86,6 +89,7 @@ bool StoredLists::saveOrForget(const fs::path& file, files::Patience& patience) 
 }
 
 void StoredLists::saveAtEnd(files::Patience& patience) {
+    isEnding_ = true;
     saveAll(patience, Unlocked::atTheEnd, isLost);
 }
 

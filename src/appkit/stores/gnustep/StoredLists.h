@@ -48,6 +48,7 @@ public:
 
     /// As save(), but for the last time: a lock that cannot be had is done without, because who holds one
     /// that long has ended or was stopped. What waits still is logged as lost.
+    /// A save that comes later is a last one too: others are notified of the end after this was.
     void saveAtEnd(files::Patience& patience);
 
     /// Whether the lock could be taken at this moment; a stale one is removed.
@@ -88,6 +89,7 @@ private:
         unsaved_; ///< what was logged of files that could not be saved
     std::map<std::string, std::function<void()>> onceSaved_;
     bool isSaving_ = false;
+    bool isEnding_ = false;
 };
 
 } // namespace qbsp::appkit

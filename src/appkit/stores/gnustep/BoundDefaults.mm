@@ -1,0 +1,65 @@
+#include "appkit/stores/gnustep/BoundDefaults.h"
+
+#include "appkit/bridge/Strings.h"
+
+#import <Foundation/Foundation.h>
+#include <objc/runtime.h>
+
+#include <filesystem>
+#include <system_error>
+
+namespace qbsp::appkit {
+
+namespace {
+
+StoredLists* boundBy = nullptr;
+
+StoredLists& lists() {
+    return *boundBy;
+}
+
+std::filesystem::path hostFile() {
+    return lists().fileOfDomain(utf8([[NSProcessInfo processInfo] processName]));
+}
+
+bool canBeRead(const std::filesystem::path& file) {
+    const auto state = readListFile(file, largestStore).state;
+    return state == ListFile::State::absent || state == ListFile::State::read;
+}
+
+/// GNUstep takes what it cannot read for empty, and calls itself for each level of nesting. It reads the two
+/// files again when their folder has changed.
+bool filesCanBeRead() {
+    static std::filesystem::file_time_type looked;
+    std::error_code failure;
+    const auto changed = std::filesystem::last_write_time(hostFile().parent_path(), failure);
+    if (!failure && changed == looked)
+        return true;
+    const bool canBe = canBeRead(hostFile()) && canBeRead(lists().fileOfDomain(utf8(NSGlobalDomain)));
+    if (canBe)
+        looked = changed;
+    return canBe;
+}
+
+using Synchronize = BOOL (*)(id, SEL);
+using AnyFunction = void (*)(); // between types of functions that the compiler takes for incompatible
+Synchronize gnustepsOwn = nullptr;
+
+BOOL synchronizeUnlessItWouldWait(id defaults, SEL selector) {
+    return filesCanBeRead() && lists().lockCanBeTaken() && gnustepsOwn(defaults, selector);
+}
+
+} // namespace
+
+void boundStandardDefaults(StoredLists& lists) {
+    boundBy = &lists;
+    // GNUstep waits 66 seconds for a lock, and again for the next file. It does so every half minute, and at
+    // the end.
+    Method method = class_getInstanceMethod([NSUserDefaults class], @selector(synchronize));
+    gnustepsOwn =
+        reinterpret_cast<Synchronize>(reinterpret_cast<AnyFunction>(method_getImplementation(method)));
+    method_setImplementation(
+        method, reinterpret_cast<IMP>(reinterpret_cast<AnyFunction>(synchronizeUnlessItWouldWait)));
+}
+
+} // namespace qbsp::appkit
