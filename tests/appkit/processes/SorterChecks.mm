@@ -28,7 +28,7 @@ void store(id value, NSString* key, NSString* domain) {
         [NSMutableDictionary dictionaryWithDictionary:[defaults persistentDomainForName:domain]];
     [contents setObject:value forKey:key];
     [defaults setPersistentDomain:contents forName:domain];
-    [defaults synchronize];
+    EXPECT_TRUE([defaults synchronize]) << "the domain was not written";
 }
 
 class SorterCheck : public RealSession {

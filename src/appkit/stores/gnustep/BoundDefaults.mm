@@ -46,7 +46,9 @@ using AnyFunction = void (*)(); // between types of functions that the compiler 
 Synchronize gnustepsOwn = nullptr;
 
 BOOL synchronizeUnlessItWouldWait(id defaults, SEL selector) {
-    return filesCanBeRead() && lists().lockCanBeTaken() && gnustepsOwn(defaults, selector);
+    // Long enough for a lock that is held as usual, for some milliseconds.
+    static files::Patience patience{std::chrono::milliseconds(300)};
+    return filesCanBeRead() && lists().lockCanBeTaken(patience) && gnustepsOwn(defaults, selector);
 }
 
 } // namespace

@@ -93,9 +93,8 @@ void StoredLists::saveAtEnd(files::Patience& patience) {
     saveAll(patience, Unlocked::atTheEnd, isLost);
 }
 
-bool StoredLists::lockCanBeTaken() {
-    files::Patience none{files::Patience::Duration(0)};
-    const files::DefaultsLock lock(defaultsFolder_, none);
+bool StoredLists::lockCanBeTaken(files::Patience& patience) {
+    const files::DefaultsLock lock(defaultsFolder_, patience);
     reportRemoved(lock);
     return lock.isHeld();
 }

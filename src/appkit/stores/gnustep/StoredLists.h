@@ -51,8 +51,8 @@ public:
     /// A save that comes later is a last one too: others are notified of the end after this was.
     void saveAtEnd(files::Patience& patience);
 
-    /// Whether the lock could be taken at this moment; a stale one is removed.
-    [[nodiscard]] bool lockCanBeTaken();
+    /// Whether the lock could be taken, waiting for it as long as there is patience; a stale one is removed.
+    [[nodiscard]] bool lockCanBeTaken(files::Patience& patience);
 
     [[nodiscard]] bool waits() const { return !waiting_.empty(); }
 
