@@ -30,3 +30,12 @@ if(SORTERPANE_32_BIT)
     add_compile_options(-m32)
     add_link_options(-m32)
 endif()
+
+# Has a program run under the sanitizers in an ordinary build as well; not where branches are counted, because the
+# sanitizers add branches of their own.
+function(sanitize target)
+    if(NOT SORTERPANE_CHECKS STREQUAL "coverage")
+        target_compile_options(${target} PRIVATE -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all)
+        target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+    endif()
+endfunction()
