@@ -5,6 +5,8 @@
 
 #include "RealSession.h"
 
+#import <Foundation/Foundation.h>
+
 #include <chrono>
 #include <cstdlib>
 #include <fstream>

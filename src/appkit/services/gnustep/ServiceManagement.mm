@@ -23,7 +23,7 @@ JobRecord jobRecord() {
 
 platform::URL embeddedApplication(const std::string& identifier) {
     const auto mainBundle = platform::URL::fileURLWithPath(utf8([[NSBundle mainBundle] bundlePath]));
-    return mainBundle.appendingPathComponent("Contents/Library/LoginItems")
+    return mainBundle.appendingPathComponent(platform::loginItemsFolder)
         .appendingPathComponent(identifier + ".app");
 }
 

@@ -1,14 +1,13 @@
 #include "appkit/stores/gnustep/JobRecord.h"
 
 #include "appkit/stores/gnustep/Saving.h"
+#include "platform/ServiceManagement.h"
 
 namespace qbsp::appkit {
 
 namespace {
 
 constexpr auto jobsKey = "Jobs";
-constexpr auto labelKey = "Label";
-constexpr auto onDemandKey = "OnDemand";
 
 } // namespace
 
@@ -24,7 +23,7 @@ std::vector<platform::Dictionary> JobRecord::jobs() const {
 
 bool JobRecord::add(const std::string& label) {
     auto jobs = jobsExcept(label);
-    jobs.push_back({{labelKey, label}, {onDemandKey, true}});
+    jobs.push_back({{platform::jobLabelEntry, label}, {platform::jobOnDemandEntry, true}});
     return write(jobs);
 }
 
@@ -44,7 +43,7 @@ bool JobRecord::write(const std::vector<platform::Dictionary>& jobs) {
 }
 
 std::string labelOf(const platform::Dictionary& job) {
-    return platform::stringEntry(job, labelKey).value_or(std::string());
+    return platform::stringEntry(job, platform::jobLabelEntry).value_or(std::string());
 }
 
 } // namespace qbsp::appkit
