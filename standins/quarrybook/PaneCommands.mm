@@ -58,7 +58,9 @@ Outcome reset(const Scene& scene) {
 
 Outcome add(const Scene& scene) {
     pressButton(scene.button(field::addButton));
-    return {.lines = {}, .pause = timeForWindows, .condition = [] { return [NSApp modalWindow] != nil; }};
+    return {.lines = {}, .pause = timeForWindows, .condition = [] {
+                return [NSApp modalWindow] != nil;
+            }};
 }
 
 Outcome set(const Scene& scene, const std::string& name, NSInteger wanted) {
@@ -74,7 +76,9 @@ Outcome set(const Scene& scene, const std::string& name, NSInteger wanted) {
 Action readSet(Words& arguments, const Scene& scene) {
     const std::string name = arguments.text();
     const NSInteger wanted = std::stoi(arguments.oneOf({"1", "0", "-1"}));
-    return [=, &scene] { return set(scene, name, wanted); };
+    return [=, &scene] {
+        return set(scene, name, wanted);
+    };
 }
 
 #pragma mark - Its table
@@ -97,7 +101,9 @@ Action readEdit(Words& arguments, const Scene& scene) {
     const std::int32_t row = arguments.signed32();
     const std::string value = arguments.oneOf({"true", "false", "1", "0"});
     const bool wanted = value == "true" || value == "1";
-    return [=, &scene] { return edit(scene, scene.column(column), scene.row(row), wanted); };
+    return [=, &scene] {
+        return edit(scene, scene.column(column), scene.row(row), wanted);
+    };
 }
 
 Action readValue(Words& arguments, const Scene& scene) {
@@ -125,7 +131,9 @@ Outcome find(const Scene& scene, NSString* wanted) {
 
 Action readFind(Words& arguments, const Scene& scene) {
     const std::string name = arguments.text();
-    return [=, &scene] { return find(scene, string(name)); };
+    return [=, &scene] {
+        return find(scene, string(name));
+    };
 }
 
 #pragma mark - Its recorders
@@ -174,7 +182,9 @@ Outcome offer(NSView* recorder, const Press& press) {
 
 Action readOffer(Words& arguments, const Scene& scene) {
     const Press press = readPress(arguments);
-    return [=, &scene] { return offer(scene.recorder(press.recorder), press); };
+    return [=, &scene] {
+        return offer(scene.recorder(press.recorder), press);
+    };
 }
 
 #pragma mark - All controls

@@ -23,7 +23,7 @@ inline constexpr const char* addButton = "addButton";
 
 /// The controls of the pane in the window, looked up by name in the pane's main view.
 class PaneControls {
-  public:
+public:
     explicit PaneControls(NSView* mainView) : mainView_(mainView) {}
 
     /// The names of the pane's controls, in the order of its fields, as its main view lists them.
@@ -37,7 +37,7 @@ class PaneControls {
     /// What the control shows, as JSON.
     [[nodiscard]] std::string description(const std::string& name) const;
 
-  private:
+private:
     NSView* mainView_;
 };
 

@@ -11,7 +11,7 @@ namespace quarrybook {
 /// What the commands of a scenario work on: the preferences window and the pane in it. A lookup throws
 /// qbsp::scenario::ScenarioError for anything that is missing or hidden.
 class Scene {
-  public:
+public:
     /// Both must outlive the scene.
     Scene(QBSPPreferencesWindow* preferences, QBSPPaneRunner* runner)
         : preferences_(preferences), runner_(runner) {}
@@ -36,7 +36,7 @@ class Scene {
     /// The row's index, which the table must have.
     [[nodiscard]] NSInteger row(std::int32_t number) const;
 
-  private:
+private:
     QBSPPreferencesWindow* preferences_;
     QBSPPaneRunner* runner_;
 };

@@ -17,7 +17,8 @@ using qbsp::scenario::Words;
 
 namespace {
 
-template <class View, class Matches> View* findView(NSView* view, Matches matches) {
+template <class View, class Matches>
+View* findView(NSView* view, Matches matches) {
     if ([view isKindOfClass:[View class]] && matches(static_cast<View*>(view)))
         return static_cast<View*>(view);
     for (NSUInteger index = 0; index < [[view subviews] count]; ++index)
@@ -40,7 +41,9 @@ Outcome press(const Scene& scene, const std::string& title) {
 
 Action readPress(Words& arguments, const Scene& scene) {
     const std::string title = arguments.text();
-    return [=, &scene] { return press(scene, title); };
+    return [=, &scene] {
+        return press(scene, title);
+    };
 }
 
 bool chooseInLastColumn(NSBrowser* browser, NSString* path) {
@@ -67,7 +70,9 @@ Outcome choose(const std::string& file) {
 
 Action readChoose(Words& arguments, const Scene&) {
     const std::string file = arguments.text();
-    return [=] { return choose(file); };
+    return [=] {
+        return choose(file);
+    };
 }
 
 Action readResize(Words& arguments, const Scene& scene) {
@@ -97,12 +102,16 @@ Outcome close(const Scene& scene) {
 
 Action readSay(Words& arguments, const Scene&) {
     const std::string text = arguments.text();
-    return [=] { return Outcome{.lines = {"", text}, .pause = 0, .condition = {}}; };
+    return [=] {
+        return Outcome{.lines = {"", text}, .pause = 0, .condition = {}};
+    };
 }
 
 Action readWait(Words& arguments, const Scene&) {
     const double seconds = arguments.seconds().toDouble();
-    return [=] { return after(seconds); };
+    return [=] {
+        return after(seconds);
+    };
 }
 
 Outcome until(id control, const std::string& text) {

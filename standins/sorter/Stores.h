@@ -8,7 +8,7 @@ namespace standin {
 
 /// The settings that the Sorter and the host share, read from their files on each call.
 class Stores {
-  public:
+public:
     /// The stores of the Sorter of that bundle identifier.
     explicit Stores(NSString* identifier) : identifier_(identifier) {}
 
@@ -24,7 +24,7 @@ class Stores {
     /// Reads the list of applications in whose full-screen mode the Sorter hides: "key=value".
     [[nodiscard]] std::string hideList() const;
 
-  private:
+private:
     [[nodiscard]] bool isEmbedded() const;
 
     NSString* identifier_;

@@ -7,8 +7,9 @@
 namespace qbsp::appkit {
 
 /// Owns one reference to an Objective-C object. Object is the pointer type, such as NSString*.
-template <class Object> class Retained {
-  public:
+template <class Object>
+class Retained {
+public:
     Retained() = default;
 
     /// Retains the object.
@@ -35,7 +36,7 @@ template <class Object> class Retained {
     /// Nil when there is no object.
     [[nodiscard]] Object get() const { return object_; }
 
-  private:
+private:
     Object object_ = nil;
 };
 

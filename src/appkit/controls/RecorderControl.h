@@ -10,7 +10,7 @@ namespace qbsp::appkit {
 
 /// Adapts a recorder of the pane's view. Forwards the view's delegate messages until it is destroyed.
 class AppKitRecorderControl final : public platform::RecorderControl {
-  public:
+public:
     explicit AppKitRecorderControl(QBSPRecorderView* view);
     ~AppKitRecorderControl() override;
     AppKitRecorderControl(const AppKitRecorderControl&) = delete;
@@ -22,7 +22,7 @@ class AppKitRecorderControl final : public platform::RecorderControl {
     void setKeyCombo(const platform::KeyCombo& keyCombo) override;
     void setDelegate(platform::RecorderDelegate& delegate) override;
 
-  private:
+private:
     Retained<QBSPRecorderView*> view_;
     Retained<QBSPRecorderListener*> listener_;
 };

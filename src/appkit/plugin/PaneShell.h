@@ -17,7 +17,7 @@ namespace qbsp::appkit {
 
 /// What the principal object owns: the pane, the services that the pane uses, and its view.
 class PaneShell {
-  public:
+public:
     /// Takes the principal object, which owns this, and the plug-in's bundle; neither is retained.
     PaneShell(PrincipalObject object, NSBundle* bundle);
     ~PaneShell();
@@ -57,7 +57,7 @@ class PaneShell {
     [[nodiscard]] id objectValue(NSTableColumn* column, NSInteger row);
     void setObjectValue(id value, NSTableColumn* column, NSInteger row);
 
-  private:
+private:
     void makeView();
     void connectActions(id target);
 

@@ -15,7 +15,8 @@ namespace {
 
 /// Runs code that accesses a row. Raises NSRangeException for a row that the list does not have, as AppKit's
 /// arrays do.
-template <class Access> void accessRow(Access access) {
+template <class Access>
+void accessRow(Access access) {
     try {
         access();
         return;

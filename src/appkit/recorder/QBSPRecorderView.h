@@ -14,7 +14,7 @@ struct QBSPRecorderParts;
 /// On every system, codes are the Mac's virtual key codes and flags are Cocoa's. Code -1 with flags 0 is the
 /// empty combination.
 @interface QBSPRecorderView : NSView {
-  @private
+@private
     std::unique_ptr<QBSPRecorderParts> _parts;
 }
 

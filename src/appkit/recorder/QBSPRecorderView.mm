@@ -29,7 +29,9 @@ struct QBSPRecorderParts {
     bool isClearPressed = false;
 
     [[nodiscard]] LayoutLabel layoutLabel() const {
-        return [this](VirtualKey key) { return keyboard->label(key); };
+        return [this](VirtualKey key) {
+            return keyboard->label(key);
+        };
     }
 };
 

@@ -8,7 +8,7 @@ namespace qbsp::recorder {
 
 /// The field in which a recorder says why it refused a key. Other recorders may use the same field.
 class ReasonDisplay {
-  public:
+public:
     ReasonDisplay() = default;
     ~ReasonDisplay();
     ReasonDisplay(const ReasonDisplay&) = delete;
@@ -28,7 +28,7 @@ class ReasonDisplay {
     /// The sentence that is shown; nil when there is none.
     [[nodiscard]] NSString* shown() const { return shown_.get(); }
 
-  private:
+private:
     appkit::Retained<NSTextField*> field_;
     appkit::Retained<NSString*> shown_;
 };

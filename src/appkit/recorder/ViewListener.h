@@ -9,7 +9,7 @@ namespace qbsp::recorder {
 
 /// Forwards the logic's calls to the view's delegate, its reason field and the screen.
 class ViewListener : public RecorderListener {
-  public:
+public:
     /// The view must outlive the listener.
     explicit ViewListener(QBSPRecorderView* view) : view_(view) {}
 
@@ -26,7 +26,7 @@ class ViewListener : public RecorderListener {
     void comboChanged(const KeyCombo& combo) override;
     void lookChanged() override;
 
-  private:
+private:
     QBSPRecorderView* view_;
     id<QBSPRecorderViewDelegate> delegate_ = nil;
     appkit::Retained<NSString*> delegatesReason_;

@@ -21,7 +21,7 @@ NSWindow* nsWindow(platform::Window* window) {
 }
 
 class AppKitOpenPanel final : public platform::OpenPanel {
-  public:
+public:
     AppKitOpenPanel(NSOpenPanel* panel, id owner) : panel_(panel), owner_(owner) {}
 
     void setCanChooseDirectories(bool canChoose) override {
@@ -51,7 +51,7 @@ class AppKitOpenPanel final : public platform::OpenPanel {
         return *isChosen_ ? urlFromNSURL([[panel_.get() URLs] lastObject]) : std::nullopt;
     }
 
-  private:
+private:
     Retained<NSOpenPanel*> panel_;
     Retained<id> owner_;
     std::shared_ptr<bool> isChosen_ = std::make_shared<bool>(false);
@@ -69,7 +69,9 @@ void AppKitOpenPanel::beginSheetModalForWindow(platform::Window* window,
         *isChosen = result == platform::NSOKButton;
         completionHandler(result);
     };
-    const auto show = [=] { showSheet(panel.get(), sheetWindow.get(), handler); };
+    const auto show = [=] {
+        showSheet(panel.get(), sheetWindow.get(), handler);
+    };
     // The panel may run modally. Shown from the run loop, it still reports its result after this has
     // returned.
     sendAfterDelay(show, 0, owner_.get());
@@ -84,7 +86,7 @@ std::shared_ptr<platform::OpenPanel> AppKitOpenPanels::openPanel() {
 namespace {
 
 class AppKitAlert final : public platform::Alert {
-  public:
+public:
     void setAlertStyle(platform::AlertStyle style) override {
         [alert_.get() setAlertStyle:static_cast<NSAlertStyle>(style)];
     }
@@ -101,7 +103,7 @@ class AppKitAlert final : public platform::Alert {
 
     std::int64_t runModal() override { return [alert_.get() runModal]; }
 
-  private:
+private:
     Retained<NSAlert*> alert_ = Retained<NSAlert*>::adopt([[NSAlert alloc] init]);
 };
 

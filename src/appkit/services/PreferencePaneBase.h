@@ -23,7 +23,7 @@ using PrincipalObject = NSPreferencePane<QBSPInheritedMessages>*;
 
 /// The NSPreferencePane part of the principal object, which owns this.
 class AppKitPreferencePaneBase final : public platform::PreferencePaneBase {
-  public:
+public:
     AppKitPreferencePaneBase(PrincipalObject object, NSBundle* bundle) : object_(object), bundle_(bundle) {}
 
     [[nodiscard]] bool initWithBundle() override;
@@ -32,7 +32,7 @@ class AppKitPreferencePaneBase final : public platform::PreferencePaneBase {
     void willUnselect() override;
     [[nodiscard]] platform::Window* mainViewWindow() override;
 
-  private:
+private:
     PrincipalObject object_;
     NSBundle* bundle_;
     std::optional<AppKitWindow> window_;

@@ -10,7 +10,7 @@ namespace qbsp::appkit {
 
 /// Adapts the host's registrar, which the host owns.
 class RegistrarAdapter final : public QBSPSorterControl {
-  public:
+public:
     explicit RegistrarAdapter(QBSPRegistrar registrar) : registrar_(registrar) {}
 
     [[nodiscard]] QBSPRegistrar object() const { return registrar_; }
@@ -25,28 +25,28 @@ class RegistrarAdapter final : public QBSPSorterControl {
     void showSorterApplication() override;
     void closeSorterApplication() override;
 
-  private:
+private:
     QBSPRegistrar registrar_;
 };
 
 /// A class that may respond to `defaultLoader`. Keeps the adapter of the registrar that it last returned.
 class AppKitLoaderClass final : public platform::LoaderClass {
-  public:
+public:
     explicit AppKitLoaderClass(Class loader) : loader_(loader) {}
 
     [[nodiscard]] QBSPSorterControl* defaultLoader() override;
 
-  private:
+private:
     Class loader_;
     std::optional<RegistrarAdapter> registrar_;
 };
 
 /// The classes in this process. Keeps the adapter of the class that was last found.
 class AppKitRuntime final : public platform::Runtime {
-  public:
+public:
     [[nodiscard]] platform::LoaderClass* classFromString(platform::ClassName name) override;
 
-  private:
+private:
     std::optional<AppKitLoaderClass> found_;
 };
 

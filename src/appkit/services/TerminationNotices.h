@@ -15,7 +15,7 @@ namespace qbsp::appkit {
 /// Delivers the workspace's notifications of terminated applications to one observer, as long as this exists.
 /// Each termination is reported once, with the bundle identifier, after the process has gone.
 class TerminationNotices {
-  public:
+public:
     TerminationNotices(std::weak_ptr<platform::TerminationObserver> observer,
                        platform::NotificationName name);
     ~TerminationNotices();
@@ -25,7 +25,7 @@ class TerminationNotices {
 
     [[nodiscard]] const std::weak_ptr<platform::TerminationObserver>& observer() const { return observer_; }
 
-  private:
+private:
     std::weak_ptr<platform::TerminationObserver> observer_;
     Retained<QBSPTerminationReceiver*> receiver_;
 };

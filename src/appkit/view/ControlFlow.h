@@ -12,7 +12,7 @@ namespace qbsp::appkit {
 /// Lays out controls side by side, each sized to its contents, on as many lines as fit them into a width.
 /// Hidden controls take no space. To be used at once: the views are not retained.
 class ControlFlow {
-  public:
+public:
     ControlFlow(const std::vector<NSView*>& controls, CGFloat width);
 
     /// The total height of all lines.
@@ -21,7 +21,7 @@ class ControlFlow {
     /// Sets the controls' frames, with the first control's top left corner at that point of a flipped view.
     void place(NSPoint origin) const;
 
-  private:
+private:
     struct Place {
         NSView* control;
         NSRect frame;

@@ -22,7 +22,7 @@ struct FormRow {
 /// Lays out a form from the top of a flipped view, with labels aligned right in one column and controls in
 /// the next. The form's view owns the views.
 class FormLayout {
-  public:
+public:
     void addRow(FormRow row);
 
     /// A text above the form, wrapped to its whole width.
@@ -33,7 +33,7 @@ class FormLayout {
 
     [[nodiscard]] const std::vector<FormRow>& rows() const { return rows_; }
 
-  private:
+private:
     struct Columns {
         CGFloat labelWidth;
         CGFloat controlX;

@@ -26,7 +26,7 @@ void failAWhile(id, SEL, NSString*, NSString*, NSDictionary*, BOOL) {
 
 /// While it exists, the system's centre fails so many times.
 class FailingCenter {
-  public:
+public:
     explicit FailingCenter(int failures) {
         posts = 0;
         failuresLeft = failures;
@@ -37,7 +37,7 @@ class FailingCenter {
     FailingCenter(const FailingCenter&) = delete;
     FailingCenter& operator=(const FailingCenter&) = delete;
 
-  private:
+private:
     Method method_ = class_getInstanceMethod([NSDistributedNotificationCenter class], @selector
                                              (postNotificationName:object:userInfo:deliverImmediately:));
     // Cast by way of a function without parameters: a direct cast between functions that differ is a warning.
@@ -46,7 +46,7 @@ class FailingCenter {
 };
 
 class FailingPost : public testing::Test, protected platform::Log {
-  protected:
+protected:
     void log(std::string_view line) override { lines.emplace_back(line); }
 
     void post() {

@@ -57,7 +57,7 @@ NSDictionary* hideFlags(NSString* name) {
 
 /// A pane that was made from the loaded bundle, in a host of the ordinary build with a registrar.
 class PrincipalClass : public RealSession {
-  protected:
+protected:
     PrincipalClass() {
         hostRegistrar() = {};
         [pane loadMainView];

@@ -20,7 +20,7 @@ fs::path homeFolder(const char* variable) {
 }
 
 class LoginItemCheck : public RealSession {
-  protected:
+protected:
     [[nodiscard]] static bool sorterRuns() {
         return AppKitRunningApplications().applicationIsRunning(embedded);
     }

@@ -30,7 +30,7 @@ NSURL* url(const fs::path& path) {
 }
 
 class RegistrarCheck : public RealSession {
-  protected:
+protected:
     ~RegistrarCheck() override { unsetenv("QUARRYBOOK_REGISTRAR_REFUSES"); }
 
     [[nodiscard]] bool isRegistered() const { return [registrar applicationIsRegistered:sorter]; }
@@ -132,7 +132,9 @@ TEST_F(RegistrarCheck, RefusesWhenTheEntryCannotBeWritten) {
 
 // This program has no application object to ask for its edition.
 TEST_F(RegistrarCheck, StartsAndStopsTheSorterOfTheHostsEdition) {
-    const auto soloRuns = [] { return !processes::runningApplications("com.quarrybook.SoloSorter").empty(); };
+    const auto soloRuns = [] {
+        return !processes::runningApplications("com.quarrybook.SoloSorter").empty();
+    };
 
     [registrar showSorterApplication];
     EXPECT_TRUE(eventually(soloRuns));

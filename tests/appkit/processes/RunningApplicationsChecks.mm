@@ -14,12 +14,12 @@ namespace {
 constexpr platform::BundleIdentifier identifier{"org.example.Quarry"};
 
 class RunningApplicationsCheck : public RealSession {
-  protected:
+protected:
     [[nodiscard]] bool runs() const { return applications_.applicationIsRunning(identifier); }
 
     const fs::path executable = makeApplication("Quarry", "org.example.Quarry");
 
-  private:
+private:
     AppKitRunningApplications applications_;
 };
 

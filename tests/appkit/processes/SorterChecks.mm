@@ -32,7 +32,7 @@ void store(id value, NSString* key, NSString* domain) {
 }
 
 class SorterCheck : public RealSession {
-  protected:
+protected:
     [[nodiscard]] std::string log() const { return textOf(logFile); }
 
     /// Waits until that line is in the log.

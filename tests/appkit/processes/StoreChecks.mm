@@ -31,7 +31,7 @@ fs::path defaultsFolder() {
 
 /// A plain file where the folder of the defaults should be.
 class FileInPlaceOfFolder {
-  public:
+public:
     FileInPlaceOfFolder() {
         fs::rename(defaultsFolder(), away_);
         std::ofstream(defaultsFolder()) << "no folder";
@@ -45,12 +45,12 @@ class FileInPlaceOfFolder {
     FileInPlaceOfFolder(const FileInPlaceOfFolder&) = delete;
     FileInPlaceOfFolder& operator=(const FileInPlaceOfFolder&) = delete;
 
-  private:
+private:
     fs::path away_ = defaultsFolder().string() + "-away";
 };
 
 class StoreCheck : public RealSession {
-  protected:
+protected:
     [[nodiscard]] bool flush(platform::ApplicationID application) {
         return preferences->synchronize(application, platform::PreferencesUser::currentUser,
                                         platform::PreferencesHost::anyHost);

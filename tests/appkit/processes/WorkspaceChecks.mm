@@ -23,7 +23,7 @@ constexpr auto withoutActivation = platform::LaunchOptions::withoutActivation;
 const std::string sorterIdentifier = "com.quarrybook.Sorter";
 
 class Observer final : public platform::TerminationObserver {
-  public:
+public:
     void appDied(const platform::Notification& notification) override {
         reported.push_back(platform::stringEntry(notification.userInfo, "NSApplicationBundleIdentifier")
                                .value_or("nothing"));
@@ -40,7 +40,7 @@ class Observer final : public platform::TerminationObserver {
 };
 
 class WorkspaceCheck : public RealSession {
-  protected:
+protected:
     [[nodiscard]] std::shared_ptr<platform::RunningApplication> launchSorter() {
         auto launched = workspace.launchApplicationAtURL(platform::URL::fileURLWithPath(SORTER_BUNDLE),
                                                          withoutActivation);
@@ -110,7 +110,7 @@ class WorkspaceCheck : public RealSession {
     AppKitWorkspace workspace;
     const std::shared_ptr<Observer> observer = std::make_shared<Observer>();
 
-  private:
+private:
     std::map<std::string, pid_t> others_;
 };
 
@@ -183,7 +183,9 @@ TEST_F(WorkspaceCheck, DoesNotWaitForAnApplicationThatHangs) {
 TEST_F(WorkspaceCheck, ReportsAnApplicationThatQuitOnceAndAfterItsEnd) {
     startAnother("Mail");
     bool ranWhenReported = false;
-    observer->then = [&] { ranWhenReported = ranWhenReported || sorterRuns(); };
+    observer->then = [&] {
+        ranWhenReported = ranWhenReported || sorterRuns();
+    };
     workspace.addObserver(observer, didTerminate);
     const auto sorter = launchSorter();
     ASSERT_NE(sorter, nullptr);
@@ -251,7 +253,9 @@ TEST_F(WorkspaceCheck, ReportsAnEndAtOnceAlsoWhileAnAlertIsOpenOrTheMouseIsHeld)
         settle();
         NSDate* killed = [NSDate date];
         std::optional<double> delay;
-        observer->then = [&] { delay = -[killed timeIntervalSinceNow]; };
+        observer->then = [&] {
+            delay = -[killed timeIntervalSinceNow];
+        };
 
         kill(processOf("Mail"), SIGKILL);
         runUntil(mode, [&] { return delay.has_value(); });
@@ -295,7 +299,9 @@ TEST_F(WorkspaceCheck, LetsAnObserverRemoveItselfWhileItIsNotified) {
     startAnother("Mail");
     startAnother("Clock");
     const auto other = std::make_shared<Observer>();
-    observer->then = [&] { workspace.removeObserver(*observer); };
+    observer->then = [&] {
+        workspace.removeObserver(*observer);
+    };
     workspace.addObserver(observer, didTerminate);
     workspace.addObserver(other, didTerminate);
 

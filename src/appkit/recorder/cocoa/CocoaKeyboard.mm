@@ -11,7 +11,7 @@ namespace {
 
 /// Cocoa's events already have the Mac's codes and flags, and modifier keys never arrive as key-down events.
 class CocoaKeyboard : public Keyboard {
-  public:
+public:
     std::optional<KeyPress> press(NSEvent* event) override;
 
     void observe(NSEvent*) override {}

@@ -17,7 +17,7 @@ void* xDisplay() {
 }
 
 class GnustepKeyboard : public Keyboard {
-  public:
+public:
     GnustepKeyboard() { omitReleasesOfHeldKeys(xDisplay()); }
 
     std::optional<KeyPress> press(NSEvent* event) override;
@@ -25,7 +25,7 @@ class GnustepKeyboard : public Keyboard {
     void forgetHeldKeys() override;
     std::string label(VirtualKey key) override;
 
-  private:
+private:
     void keyUp(X11KeyCode keyCode);
 
     X11Layout layout_{xDisplay()};

@@ -13,12 +13,12 @@ namespace qbsp::appkit {
 namespace {
 
 class LaunchedApplication final : public platform::RunningApplication {
-  public:
+public:
     explicit LaunchedApplication(NSRunningApplication* application) : application_(application) {}
 
     bool terminate() override { return [application_.get() terminate]; }
 
-  private:
+private:
     Retained<NSRunningApplication*> application_;
 };
 

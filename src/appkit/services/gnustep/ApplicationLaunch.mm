@@ -9,12 +9,12 @@ namespace qbsp::appkit {
 namespace {
 
 class LaunchedApplication final : public platform::RunningApplication {
-  public:
+public:
     explicit LaunchedApplication(const processes::Process& process) : process_(process) {}
 
     bool terminate() override { return processes::askToQuit(process_); }
 
-  private:
+private:
     processes::Process process_;
 };
 

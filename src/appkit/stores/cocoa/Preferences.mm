@@ -25,7 +25,7 @@ CFPropertyListRef cfValue(const platform::Value& value) {
 }
 
 class CoreFoundationPreferences final : public platform::Preferences {
-  public:
+public:
     void addSuitePreferencesToApp(platform::ApplicationID application, platform::SuiteID suite) override {
         CFPreferencesAddSuitePreferencesToApp(cfString(application.text), cfSuite(suite));
     }

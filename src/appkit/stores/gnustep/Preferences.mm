@@ -22,7 +22,7 @@ std::filesystem::path fileOf(std::string_view domain) {
 /// Preferences on the files of the user's defaults. Every flush carries all that waits, whichever domain it
 /// is asked for, and so does the end.
 class StoredPreferences final : public platform::Preferences {
-  public:
+public:
     StoredPreferences() = default;
 
     ~StoredPreferences() override { saveNow(); }
@@ -56,7 +56,7 @@ class StoredPreferences final : public platform::Preferences {
         return !storedLists().waits(fileOf(application.text));
     }
 
-  private:
+private:
     std::set<std::string> withHostAsSuite_;
 };
 

@@ -44,7 +44,9 @@ void showInStandardDefaults(const std::string& key, const platform::Value& value
 void bringStandardDefaultsUpToDate() {
     NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
     BOOL done = NO;
-    const auto synchronize = [&] { done = [defaults synchronize]; };
+    const auto synchronize = [&] {
+        done = [defaults synchronize];
+    };
     if (objc::tryObjC(synchronize) == nil && done && !storedLists().waits(hostFile()))
         [defaults removeVolatileDomainForName:shownDomain];
 }

@@ -36,7 +36,7 @@ bool kill(const std::vector<processes::Application>& applications) {
 }
 
 class AppKitStage final : public ApplicationsStage {
-  public:
+public:
     AppKitStage() {
         makeBundle(bundle_);
         makeBundle(embedded_);
@@ -80,7 +80,7 @@ class AppKitStage final : public ApplicationsStage {
         serviceManagement_.loginItemSetEnabled(job, true);
     }
 
-  private:
+private:
     void endAll() {
         EXPECT_TRUE(eventually([] { return kill(processes::runningApplications(identifier)); }));
     }

@@ -8,7 +8,7 @@
 
 /// A user who responds to each dialog once: reads it, chooses a file in it, presses a button of it.
 @interface ContractUser : NSObject {
-  @public
+@public
     std::string button;
     std::optional<std::string> choice;
     std::vector<std::string> texts;

@@ -2,14 +2,16 @@
 
 namespace {
 
-template <class Visit> void visitViews(NSView* view, Visit visit) {
+template <class Visit>
+void visitViews(NSView* view, Visit visit) {
     visit(view);
     for (NSUInteger index = 0; index < [[view subviews] count]; ++index)
         visitViews([[view subviews] objectAtIndex:index], visit);
 }
 
 /// The view of that class in the window that the predicate takes; nil when there is none.
-template <class Takes> id find(NSWindow* window, Class kind, Takes takes) {
+template <class Takes>
+id find(NSWindow* window, Class kind, Takes takes) {
     id found = nil;
     visitViews([window contentView], [&](NSView* view) {
         if (found == nil && [view isKindOfClass:kind] && ![view isHidden] && takes(view))

@@ -6,7 +6,7 @@
 
 /// A view with a control of each kind; it is the table's data source.
 @interface ContractView : NSView {
-  @public
+@public
     NSTextField* textField;
     NSButton* button;
     QBSPRecorderView* recorder;

@@ -12,7 +12,7 @@ using platform::Dictionary;
 namespace {
 
 class AppKitStage final : public ControlsStage {
-  public:
+public:
     AppKitStage() { [window_.get() setContentView:view_.get()]; }
 
     ~AppKitStage() override { [window_.get() close]; }
@@ -76,7 +76,7 @@ class AppKitStage final : public ControlsStage {
         return NSMinY(seen) <= NSMinY(wanted) && NSMaxY(wanted) <= NSMaxY(seen);
     }
 
-  private:
+private:
     /// Only views in a window have a visible rectangle.
     static NSWindow* makeWindow() {
         NSWindow* window = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, 200, 200)

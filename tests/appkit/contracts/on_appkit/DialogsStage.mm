@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 namespace {
 
 class AppKitStage final : public DialogsStage {
-  public:
+public:
     AppKitStage() {
         fs::create_directories(folder_ / "Clock.app");
         fs::create_directories(folder_ / "Mail.app");
@@ -63,7 +63,7 @@ class AppKitStage final : public DialogsStage {
         letUserPress("Cancel");
     }
 
-  private:
+private:
     const fs::path folder_ = fs::path(std::getenv("HOME")) / "applications";
     const appkit::Retained<ContractUser*> user_ =
         appkit::Retained<ContractUser*>::adopt([[ContractUser alloc] init]);

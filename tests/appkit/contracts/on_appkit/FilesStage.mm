@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 namespace {
 
 class AppKitStage final : public FilesStage {
-  public:
+public:
     AppKitStage() { fs::create_directories(folder_); }
 
     ~AppKitStage() override {
@@ -49,7 +49,7 @@ class AppKitStage final : public FilesStage {
         return text.starts_with("<?xml");
     }
 
-  private:
+private:
     const fs::path folder_ = fs::path(std::getenv("HOME")) / "test files";
     const fs::path away_ = folder_.string() + ".away";
     appkit::AppKitFileManager files_;

@@ -13,7 +13,7 @@
 
 /// The application object of a host that knows the pane's questions.
 @interface ContractHost : NSObject {
-  @public
+@public
     qbsp::contracts::HostAnswers answers;
 }
 @end
@@ -37,7 +37,7 @@ namespace fs = std::filesystem;
 namespace {
 
 class AppKitStage final : public HostStage {
-  public:
+public:
     ~AppKitStage() override { NSApp = application_; }
 
     platform::Host& host() override { return host_; }
@@ -74,7 +74,7 @@ class AppKitStage final : public HostStage {
         return testing::internal::GetCapturedStderr();
     }
 
-  private:
+private:
     const decltype(NSApp) application_ = NSApp;
     const appkit::Retained<ContractHost*> knowing_ =
         appkit::Retained<ContractHost*>::adopt([[ContractHost alloc] init]);

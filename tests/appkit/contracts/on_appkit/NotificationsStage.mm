@@ -13,7 +13,7 @@
 
 /// Keeps the notifications that it receives, in their order.
 @interface ContractListener : NSObject {
-  @public
+@public
     std::deque<qbsp::contracts::Received> received;
 }
 - (void)receive:(NSNotification*)notification;
@@ -50,7 +50,7 @@ bool isTheSame(const Received& one, const Received& other) {
 }
 
 class AppKitStage final : public NotificationsStage {
-  public:
+public:
     AppKitStage() {
         for (NSString* name : {@"First", @"Second"})
             [[NSDistributedNotificationCenter defaultCenter] addObserver:listener_.get()
@@ -74,7 +74,7 @@ class AppKitStage final : public NotificationsStage {
         return isTheSame(first, expected);
     }
 
-  private:
+private:
     const appkit::Retained<ContractListener*> listener_ =
         appkit::Retained<ContractListener*>::adopt([[ContractListener alloc] init]);
     appkit::AppKitLog log_;

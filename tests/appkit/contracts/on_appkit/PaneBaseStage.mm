@@ -7,7 +7,7 @@
 
 /// The principal object as its base class sees it.
 @interface ContractPane : NSPreferencePane <QBSPInheritedMessages> {
-  @public
+@public
     bool refused;
     std::vector<std::string> messages;
 }
@@ -44,7 +44,7 @@ namespace {
 using appkit::Retained;
 
 class AppKitStage final : public PaneBaseStage {
-  public:
+public:
     ~AppKitStage() override { [window_.get() close]; }
 
     platform::PreferencePaneBase& base() override { return base_; }
@@ -58,7 +58,7 @@ class AppKitStage final : public PaneBaseStage {
         [window_.get() setContentView:shown ? view_.get() : nil];
     }
 
-  private:
+private:
     static NSWindow* makeWindow() {
         NSWindow* window = [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, 100, 100)
                                                        styleMask:NSTitledWindowMask

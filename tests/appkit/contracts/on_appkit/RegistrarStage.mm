@@ -12,7 +12,7 @@ namespace qbsp::contracts {
 namespace {
 
 class AppKitStage final : public RegistrarStage {
-  public:
+public:
     ~AppKitStage() override { registrarState() = {}; }
 
     platform::Runtime& runtime() override { return runtime_; }
@@ -33,7 +33,7 @@ class AppKitStage final : public RegistrarStage {
 
     std::vector<std::string> messages() override { return std::exchange(registrarState().messages, {}); }
 
-  private:
+private:
     appkit::AppKitRuntime runtime_;
     appkit::AppKitBundles bundles_{[ContractLoader class]};
 };

@@ -30,7 +30,7 @@ const fs::path& folder() {
 
 /// A disk on which no file can grow.
 class FullDisk {
-  public:
+public:
     FullDisk() {
         std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &before_);
@@ -43,7 +43,7 @@ class FullDisk {
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
 
-  private:
+private:
     rlimit before_{};
 };
 
@@ -52,7 +52,7 @@ NSString* hostDomain() {
 }
 
 class AppKitStage final : public StoresStage {
-  public:
+public:
     ~AppKitStage() override {
         // What a test only set would otherwise be saved during the next.
         EXPECT_TRUE(userDefaults_.synchronize());
@@ -98,7 +98,7 @@ class AppKitStage final : public StoresStage {
         return flush();
     }
 
-  private:
+private:
     static std::string fileOf(const std::string& domain) { return folder() / (domain + ".plist"); }
 
     std::unique_ptr<platform::Preferences> preferences_ = appkit::makePreferences();

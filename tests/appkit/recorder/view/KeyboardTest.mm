@@ -41,7 +41,7 @@ bool useLayout(const std::string& layout) {
 } // namespace
 
 class KeyboardLayout : public RecorderView {
-  protected:
+protected:
     void TearDown() override {
         EXPECT_TRUE(useLayout("us"));
         RecorderView::TearDown();

@@ -10,7 +10,7 @@ namespace qbsp::recorder {
 
 /// A window on the screen with real recorders in it, worked by a real keyboard and mouse.
 class RecorderView : public testing::Test {
-  protected:
+protected:
     void SetUp() override;
     void TearDown() override;
 
@@ -40,7 +40,7 @@ class RecorderView : public testing::Test {
     QBSPRecorderView* first = nil;
     QBSPRecorderView* second = nil;
 
-  private:
+private:
     appkit::Retained<RecordingDelegate*> delegate_;
 };
 

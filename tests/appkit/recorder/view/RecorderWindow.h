@@ -21,7 +21,7 @@ struct DelegateCalls {
 
 /// Remembers the calls that it receives.
 @interface RecordingDelegate : NSObject <QBSPRecorderViewDelegate> {
-  @private
+@private
     qbsp::recorder::DelegateCalls* _calls;
 }
 - (id)initWithCalls:(qbsp::recorder::DelegateCalls*)calls;
@@ -30,7 +30,7 @@ struct DelegateCalls {
 /// A window with two recorders, a text field, a field for reasons and a button that Return presses. It counts
 /// the events that it has handled.
 @interface RecorderWindow : NSWindow {
-  @public
+@public
     QBSPRecorderView* first;
     QBSPRecorderView* second;
     NSTextField* textField;
