@@ -26,7 +26,7 @@ PaneAction silent(std::function<void()> action) {
     };
 }
 
-/// A column that bears an identifier, whether or not the table has one.
+/// A column that has an identifier, whether or not the table has one.
 class NamedColumn final : public platform::TableColumn {
 public:
     explicit NamedColumn(std::string identifier) : identifier_(std::move(identifier)) {}
