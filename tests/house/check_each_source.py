@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""check_each_source.py ROOT: compiles each source by itself, as the default preset does, but only checks it.
+"""check_each_source.py ROOT FOLDER...: compiles each source below the folders by itself, as the default preset does, but
+only checks it.
 
 The builds that run the tests compile sources in batches, after headers that all of them share: they accept a source
 that lacks an include or uses a name from its neighbour. Skips sources that were accepted before, unless they or any
@@ -35,14 +36,14 @@ def headers_of(root):
     return digest
 
 
-def checks(root, build):
+def checks(root, build, folders):
     """A command and the stamp that says that it succeeded, for each source that is the project's own."""
     headers = headers_of(root)
     stamps = build / "alone"
     stamps.mkdir(exist_ok=True)
     for entry in json.loads((build / "compile_commands.json").read_text()):
         source = pathlib.Path(entry["file"])
-        if source.suffix not in SUFFIXES or not any(source.is_relative_to(root / folder) for folder in FOLDERS):
+        if source.suffix not in SUFFIXES or not any(source.is_relative_to(root / folder) for folder in folders):
             continue
         words = shlex.split(entry["command"])
         output = words.index("-o")
@@ -62,9 +63,9 @@ def accepted(check):
 
 def main():
     root = pathlib.Path(sys.argv[1]).resolve()
-    everything = list(checks(root, configured(root)))
+    everything = list(checks(root, configured(root), sys.argv[2:]))
     if not everything:
-        sys.exit("the default preset compiles nothing")
+        sys.exit("the default preset compiles nothing there")
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         results = list(pool.map(accepted, [check for check in everything if not check[2].exists()]))
     sys.stderr.writelines(messages for _, messages in results)
