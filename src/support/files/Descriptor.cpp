@@ -8,6 +8,7 @@
 namespace files {
 
 Descriptor::Descriptor(const std::filesystem::path& file, int flags, mode_t mode)
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): the system call is declared that way.
     : number_(uninterrupted([&] { return open(file.c_str(), flags | O_CLOEXEC, mode); })) {}
 
 Descriptor::~Descriptor() {

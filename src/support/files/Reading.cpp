@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <fcntl.h>
+#include <span>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -33,8 +34,8 @@ Reading readAll(const Descriptor& file, std::size_t size, std::size_t limit) {
     std::string& contents = reading.contents;
     std::size_t end = 0;
     for (;;) {
-        const auto count =
-            uninterrupted([&] { return read(file.number(), contents.data() + end, contents.size() - end); });
+        const std::span room = std::span(contents).subspan(end);
+        const auto count = uninterrupted([&] { return read(file.number(), room.data(), room.size()); });
         if (count < 0)
             return failed(lastError());
         end += static_cast<std::size_t>(count);

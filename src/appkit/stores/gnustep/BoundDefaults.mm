@@ -12,10 +12,21 @@ namespace qbsp::appkit {
 
 namespace {
 
-StoredLists* boundBy = nullptr;
+using Synchronize = BOOL (*)(id, SEL);
+
+/// What bounds GNUstep's defaults, and what it stands in front of.
+struct Bound {
+    StoredLists* by = nullptr;
+    Synchronize gnustepsOwn = nullptr;
+};
+
+Bound& bound() {
+    static Bound bound;
+    return bound;
+}
 
 StoredLists& lists() {
-    return *boundBy;
+    return *bound().by;
 }
 
 std::filesystem::path hostFile() {
@@ -41,27 +52,26 @@ bool filesCanBeRead() {
     return canBe;
 }
 
-using Synchronize = BOOL (*)(id, SEL);
-using AnyFunction = void (*)(); // between types of functions that the compiler takes for incompatible
-Synchronize gnustepsOwn = nullptr;
-
 BOOL synchronizeUnlessItWouldWait(id defaults, SEL selector) {
     // Long enough for a lock that is held as usual, for some milliseconds.
     static files::Patience patience{std::chrono::milliseconds(300)};
-    return filesCanBeRead() && lists().lockCanBeTaken(patience) && gnustepsOwn(defaults, selector);
+    return filesCanBeRead() && lists().lockCanBeTaken(patience) && bound().gnustepsOwn(defaults, selector);
 }
 
 } // namespace
 
 void boundStandardDefaults(StoredLists& lists) {
-    boundBy = &lists;
+    bound().by = &lists;
     // GNUstep waits 66 seconds for a lock, and again for the next file. It does so every half minute, and at
     // the end.
     Method method = class_getInstanceMethod([NSUserDefaults class], @selector(synchronize));
-    gnustepsOwn =
+    using AnyFunction = void (*)(); // between types of functions that the compiler takes for incompatible
+    // NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast): the runtime has one type for all methods.
+    bound().gnustepsOwn =
         reinterpret_cast<Synchronize>(reinterpret_cast<AnyFunction>(method_getImplementation(method)));
     method_setImplementation(
         method, reinterpret_cast<IMP>(reinterpret_cast<AnyFunction>(synchronizeUnlessItWouldWait)));
+    // NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
 }
 
 } // namespace qbsp::appkit

@@ -4,6 +4,7 @@
 #include <bit>
 #include <limits>
 #include <optional>
+#include <span>
 
 namespace qbsp::appkit {
 
@@ -157,8 +158,8 @@ private:
             return {};
         switch (kind) {
         case Kind::data: {
-            const auto* first = reinterpret_cast<const std::byte*>(bytes->data());
-            return Data(first, first + bytes->size());
+            const auto data = std::as_bytes(std::span(*bytes));
+            return Data(data.begin(), data.end());
         }
         case Kind::ascii:
             return textOf(*bytes, 1);

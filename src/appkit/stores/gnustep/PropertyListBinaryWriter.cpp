@@ -1,7 +1,9 @@
 #include "appkit/stores/gnustep/PropertyListFormats.h"
 
+#include <algorithm>
 #include <bit>
 #include <concepts>
+#include <cstddef>
 #include <limits>
 #include <vector>
 
@@ -14,6 +16,13 @@ using platform::Dictionary;
 using platform::Value;
 
 namespace {
+
+std::string charactersOf(const Data& data) {
+    std::string characters;
+    for (const std::byte each : data)
+        characters += std::to_integer<char>(each);
+    return characters;
+}
 
 std::string bigEndian(std::uint64_t number, unsigned size) {
     std::string bytes;
@@ -41,10 +50,7 @@ std::string counted(unsigned kind, std::size_t count) {
 }
 
 bool isASCII(std::string_view text) {
-    for (const char character : text)
-        if (static_cast<unsigned char>(character) >= 0x80)
-            return false;
-    return true;
+    return std::ranges::all_of(text, [](char each) { return static_cast<unsigned char>(each) < 0x80; });
 }
 
 /// The text, which is valid UTF-8, in UTF-16.
@@ -95,19 +101,16 @@ public:
     std::uint64_t operator()(bool flag) { return add(std::string(1, flag ? '\x09' : '\x08')); }
 
     std::uint64_t operator()(double real) {
-        return add("\x23" + bigEndian(std::bit_cast<std::uint64_t>(real), 8));
+        return add('\x23' + bigEndian(std::bit_cast<std::uint64_t>(real), 8));
     }
 
     std::uint64_t operator()(const std::string& text) { return add(textObject(text)); }
 
     std::uint64_t operator()(const Date& date) {
-        return add("\x33" + bigEndian(std::bit_cast<std::uint64_t>(date.secondsSinceReferenceDate), 8));
+        return add('\x33' + bigEndian(std::bit_cast<std::uint64_t>(date.secondsSinceReferenceDate), 8));
     }
 
-    std::uint64_t operator()(const Data& data) {
-        return add(counted(4, data.size()) +
-                   std::string(reinterpret_cast<const char*>(data.data()), data.size()));
-    }
+    std::uint64_t operator()(const Data& data) { return add(counted(4, data.size()) + charactersOf(data)); }
 
     template <std::signed_integral Integer>
     std::uint64_t operator()(Integer integer) {

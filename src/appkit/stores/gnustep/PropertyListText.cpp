@@ -111,12 +111,12 @@ bool exists(std::int64_t month, std::int64_t day, std::int64_t hour, std::int64_
     return month >= 1 && month <= 12 && day >= 1 && day <= 31 && hour <= 23 && minute <= 59 && second <= 60;
 }
 
-constexpr std::array<signed char, 256> base64Values = [] {
+constexpr std::array<std::int16_t, 256> base64Values = [] {
     constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-    std::array<signed char, 256> values{};
+    std::array<std::int16_t, 256> values{};
     values.fill(-1);
     for (std::size_t value = 0; value < digits.size(); ++value)
-        values.at(static_cast<unsigned char>(digits[value])) = static_cast<signed char>(value);
+        values.at(static_cast<unsigned char>(digits[value])) = static_cast<std::int16_t>(value);
     return values;
 }();
 
@@ -190,6 +190,7 @@ std::optional<std::string> textOfDate(const Date& date) {
         return std::nullopt;
     std::array<char, 64> text{};
     const int length =
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): this library has no std::format yet.
         std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", year,
                       static_cast<unsigned>(calendar.month()), static_cast<unsigned>(calendar.day()),
                       static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),

@@ -152,8 +152,14 @@ void tell(void* context, HandOn handOn) {
         xmlStopParser(parser);
 }
 
-std::string_view viewOf(const xmlChar* text) {
+/// The library's characters are UTF-8 in unsigned bytes.
+const char* charactersAt(const xmlChar* text) {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): both are bytes.
     return reinterpret_cast<const char*>(text);
+}
+
+std::string_view viewOf(const xmlChar* text) {
+    return charactersAt(text);
 }
 
 void startElement(void* context, const xmlChar* name, const xmlChar*, const xmlChar*, int, const xmlChar**,
@@ -166,7 +172,7 @@ void endElement(void* context, const xmlChar* name, const xmlChar*, const xmlCha
 }
 
 void characters(void* context, const xmlChar* text, int length) {
-    const std::string_view view(reinterpret_cast<const char*>(text), static_cast<std::size_t>(length));
+    const std::string_view view(charactersAt(text), static_cast<std::size_t>(length));
     tell(context, [&](XMLReceiver& receiver) { receiver.characters(view); });
 }
 

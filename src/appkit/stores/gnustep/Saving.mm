@@ -44,6 +44,7 @@ QBSPSaver* saver() {
 
 StoredLists& storedLists() {
     // It outlives whatever may still have something to save when the process ends.
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): there is one user in a process.
     static StoredLists& lists = *makeStoredLists().release();
     return lists;
 }
