@@ -25,12 +25,8 @@ Bound& bound() {
     return bound;
 }
 
-StoredLists& lists() {
-    return *bound().by;
-}
-
-std::filesystem::path hostFile() {
-    return lists().fileOfDomain(utf8([[NSProcessInfo processInfo] processName]));
+std::filesystem::path hostFile(const StoredLists& lists) {
+    return lists.fileOfDomain(utf8([[NSProcessInfo processInfo] processName]));
 }
 
 bool canBeRead(const std::filesystem::path& file) {
@@ -40,13 +36,13 @@ bool canBeRead(const std::filesystem::path& file) {
 
 /// GNUstep takes what it cannot read for empty, and calls itself for each level of nesting. It reads the two
 /// files again when their folder has changed.
-bool filesCanBeRead() {
+bool filesCanBeRead(const StoredLists& lists) {
     static std::filesystem::file_time_type looked;
     std::error_code failure;
-    const auto changed = std::filesystem::last_write_time(hostFile().parent_path(), failure);
+    const auto changed = std::filesystem::last_write_time(hostFile(lists).parent_path(), failure);
     if (!failure && changed == looked)
         return true;
-    const bool canBe = canBeRead(hostFile()) && canBeRead(lists().fileOfDomain(utf8(NSGlobalDomain)));
+    const bool canBe = canBeRead(hostFile(lists)) && canBeRead(lists.fileOfDomain(utf8(NSGlobalDomain)));
     if (canBe)
         looked = changed;
     return canBe;
@@ -55,7 +51,9 @@ bool filesCanBeRead() {
 BOOL synchronizeUnlessItWouldWait(id defaults, SEL selector) {
     // Long enough for a lock that is held as usual, for some milliseconds.
     static files::Patience patience{std::chrono::milliseconds(300)};
-    return filesCanBeRead() && lists().lockCanBeTaken(patience) && bound().gnustepsOwn(defaults, selector);
+    StoredLists* const lists = bound().by;
+    return lists != nullptr && filesCanBeRead(*lists) && lists->lockCanBeTaken(patience) &&
+           bound().gnustepsOwn(defaults, selector);
 }
 
 } // namespace
