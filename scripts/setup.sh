@@ -6,7 +6,7 @@ set -euo pipefail
 
 packages_for() {
     case $1 in
-    core) echo cmake ninja-build gcc g++ nlohmann-json3-dev googletest python3 ;;
+    core) echo cmake ninja-build clang libclang-rt-dev g++ nlohmann-json3-dev googletest python3 ;;
     application)
         echo cmake ninja-build make g++ gobjc++ gnustep-make nlohmann-json3-dev \
             libgnustep-gui-dev libpreferencepanes-dev libxml2-dev gnustep-gui-runtime gnustep-base-runtime gnustep-back0.29-cairo \
