@@ -22,8 +22,8 @@ report() { # NAME OPTION...
 }
 
 # Some programs compile pieces of the core once more, with branches that are numbered in another way.
-count core "$root/src/($core_rooms)/" --exclude-directories '.*/tests/appkit'
-count shell "$root/src/(appkit|support)/"
+count core "$root/src/($core_rooms)/" --exclude-directories '.*/tests/(appkit|propertylists)'
+count shell "$root/src/(appkit|propertylists|support)/"
 gcovr --root "$root" --add-tracefile "$build/report/core.json" --add-tracefile "$build/report/shell.json" \
     "${branches[@]}" --html-details "$build/report/index.html"
 

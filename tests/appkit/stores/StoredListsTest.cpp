@@ -3,7 +3,7 @@
 #include "FullDisk.h"
 #include "Processes.h"
 #include "TemporaryFolder.h"
-#include "appkit/stores/gnustep/PropertyList.h"
+#include "propertylists/PropertyList.h"
 
 #include <gtest/gtest.h>
 
@@ -63,7 +63,7 @@ protected:
 
     void put(const std::string& bytes) const { std::ofstream(file, std::ios::binary) << bytes; }
 
-    void put(const Dictionary& contents) const { put(propertyListBytes(contents)); }
+    void put(const Dictionary& contents) const { put(propertylists::propertyListBytes(contents)); }
 
     [[nodiscard]] static std::string bytesOf(const fs::path& path) {
         std::ifstream stream(path, std::ios::binary);
@@ -71,7 +71,7 @@ protected:
     }
 
     [[nodiscard]] Value stored() const {
-        const Parsed parsed = parsedPropertyList(bytesOf(file));
+        const auto parsed = propertylists::parsedPropertyList(bytesOf(file));
         const auto* value = std::get_if<Value>(&parsed);
         return value == nullptr ? Value() : *value;
     }

@@ -1,10 +1,10 @@
 #include "appkit/stores/gnustep/ListFile.h"
 
-#include "appkit/stores/gnustep/PropertyList.h"
 #include "files/Calls.h"
 #include "files/Draft.h"
 #include "files/Folders.h"
 #include "files/Reading.h"
+#include "propertylists/PropertyList.h"
 
 #include <cstdio>
 #include <fcntl.h>
@@ -17,6 +17,8 @@ namespace fs = std::filesystem;
 
 using platform::Dictionary;
 using platform::Value;
+using propertylists::parsedPropertyList;
+using propertylists::propertyListBytes;
 using State = ListFile::State;
 
 namespace {
@@ -32,8 +34,8 @@ std::string tooLarge(std::size_t limit) {
 ListFile listIn(const std::string& bytes) {
     if (bytes.empty())
         return {};
-    const Parsed parsed = parsedPropertyList(bytes);
-    if (const auto* fault = std::get_if<Fault>(&parsed))
+    const auto parsed = parsedPropertyList(bytes);
+    if (const auto* fault = std::get_if<propertylists::Fault>(&parsed))
         return damaged(std::string(wordsFor(*fault)));
     const auto* dictionary = std::get<Value>(parsed).as<Dictionary>();
     return dictionary == nullptr ? damaged("holds no dictionary") : ListFile{State::read, *dictionary, {}};
@@ -42,7 +44,7 @@ ListFile listIn(const std::string& bytes) {
 /// The bytes of the dictionary; none when another dictionary would be read from them.
 std::string bytesThatReadBack(const Dictionary& contents) {
     std::string bytes = propertyListBytes(contents);
-    const Parsed parsed = parsedPropertyList(bytes);
+    const auto parsed = parsedPropertyList(bytes);
     const auto* value = std::get_if<Value>(&parsed);
     // As bytes: some kinds of integers are one in a file, and what is no number equals nothing.
     return value != nullptr && propertyListBytes(*value) == bytes ? bytes : std::string();

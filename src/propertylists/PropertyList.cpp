@@ -1,12 +1,12 @@
-#include "appkit/stores/gnustep/PropertyList.h"
+#include "propertylists/PropertyList.h"
 
-#include "appkit/stores/gnustep/PropertyListFormats.h"
-#include "appkit/stores/gnustep/PropertyListText.h"
+#include "propertylists/PropertyListFormats.h"
+#include "propertylists/PropertyListText.h"
 
 #include <algorithm>
 #include <array>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 using platform::Array;
 using platform::Date;
@@ -93,4 +93,4 @@ std::string propertyListBytes(const Value& value) {
     return xmlHas(value) ? xmlBytes(value) : binaryBytes(value);
 }
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

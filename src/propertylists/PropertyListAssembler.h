@@ -1,13 +1,13 @@
 #pragma once
 
-#include "appkit/stores/gnustep/ParsedPropertyList.h"
+#include "propertylists/ParsedPropertyList.h"
 
 #include <optional>
 #include <string>
 #include <variant>
 #include <vector>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 /// Puts a property list together from its parts, in the order in which they are read. Once a part does not
 /// fit, all that follow are refused.
@@ -57,4 +57,4 @@ private:
     std::optional<Fault> fault_;
 };
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

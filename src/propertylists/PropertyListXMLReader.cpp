@@ -1,6 +1,6 @@
-#include "appkit/stores/gnustep/PropertyListAssembler.h"
-#include "appkit/stores/gnustep/PropertyListFormats.h"
-#include "appkit/stores/gnustep/PropertyListText.h"
+#include "propertylists/PropertyListAssembler.h"
+#include "propertylists/PropertyListFormats.h"
+#include "propertylists/PropertyListText.h"
 
 #include <array>
 #include <libxml/parser.h>
@@ -8,7 +8,7 @@
 #include <limits>
 #include <memory>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 using platform::Array;
 using platform::Dictionary;
@@ -225,4 +225,4 @@ Parsed parsedXML(std::string_view bytes) {
     return receiver.list().finished();
 }
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

@@ -1,4 +1,4 @@
-#include "appkit/stores/gnustep/PropertyListText.h"
+#include "propertylists/PropertyListText.h"
 
 #include <algorithm>
 #include <array>
@@ -8,7 +8,7 @@
 #include <cstdio>
 #include <limits>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 using platform::Data;
 using platform::Date;
@@ -253,4 +253,4 @@ bool appendCharacter(std::uint32_t code, std::string& text) {
     return true;
 }
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

@@ -1,8 +1,8 @@
-#include "appkit/stores/gnustep/PropertyListAssembler.h"
+#include "propertylists/PropertyListAssembler.h"
 
 #include <utility>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 using platform::Array;
 using platform::Dictionary;
@@ -93,4 +93,4 @@ void PropertyListAssembler::place(Value value) {
             .insert_or_assign(*std::exchange(container.key, {}), std::move(value));
 }
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

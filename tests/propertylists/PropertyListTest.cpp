@@ -1,14 +1,14 @@
-#include "appkit/stores/gnustep/PropertyList.h"
+#include "propertylists/PropertyList.h"
 
-#include "appkit/stores/gnustep/PropertyListFormats.h"
-#include "appkit/stores/gnustep/PropertyListText.h"
+#include "propertylists/PropertyListFormats.h"
+#include "propertylists/PropertyListText.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 using platform::Array;
 using platform::Data;
@@ -403,4 +403,4 @@ TEST(PropertyList, IsReadOrRefusedWhereverItIsCutOrChanged) {
         }
 }
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

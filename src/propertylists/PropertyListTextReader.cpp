@@ -1,11 +1,11 @@
-#include "appkit/stores/gnustep/PropertyListAssembler.h"
-#include "appkit/stores/gnustep/PropertyListFormats.h"
-#include "appkit/stores/gnustep/PropertyListText.h"
+#include "propertylists/PropertyListAssembler.h"
+#include "propertylists/PropertyListFormats.h"
+#include "propertylists/PropertyListText.h"
 
 #include <algorithm>
 #include <optional>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 using platform::Array;
 using platform::Data;
@@ -235,4 +235,4 @@ Parsed parsedText(std::string_view bytes) {
     return TextReader(bytes).read();
 }
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "appkit/stores/gnustep/ParsedPropertyList.h"
+#include "propertylists/ParsedPropertyList.h"
 
 #include <string>
 #include <string_view>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 /// What follows the file's name in a line of the log: "is ...".
 [[nodiscard]] std::string_view wordsFor(Fault fault);
@@ -20,4 +20,4 @@ namespace qbsp::appkit {
 /// values.
 [[nodiscard]] std::string propertyListBytes(const platform::Value& value);
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

@@ -1,5 +1,5 @@
-#include "appkit/stores/gnustep/PropertyListFormats.h"
-#include "appkit/stores/gnustep/PropertyListText.h"
+#include "propertylists/PropertyListFormats.h"
+#include "propertylists/PropertyListText.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 #include <string_view>
 #include <variant>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 using platform::Array;
 using platform::Data;
@@ -153,4 +153,4 @@ std::string xmlBytes(const Value& value) {
     return xml += "</plist>\n";
 }
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

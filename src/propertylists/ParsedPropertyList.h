@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <variant>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 /// Containers may lie in each other this deep.
 inline constexpr std::size_t deepestNesting = 512;
@@ -21,4 +21,4 @@ enum class Fault {
 /// The value, which exists, or why there is none.
 using Parsed = std::variant<platform::Value, Fault>;
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "appkit/stores/gnustep/ParsedPropertyList.h"
+#include "propertylists/ParsedPropertyList.h"
 
 #include <string>
 #include <string_view>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 /// The property list in each of its formats.
 [[nodiscard]] Parsed parsedXML(std::string_view bytes);
@@ -21,4 +21,4 @@ namespace qbsp::appkit {
 /// What a binary property list begins with.
 inline constexpr std::string_view binaryBeginning = "bplist00";
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

@@ -8,7 +8,7 @@
 #include <string_view>
 
 /// The leaves of a property list as texts. What is no such text has no value.
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 /// The integer of the first kind that it fits: 32 bits, 64 bits, unsigned 64 bits.
 [[nodiscard]] platform::Value narrowestInteger(std::int64_t integer);
@@ -40,4 +40,4 @@ namespace qbsp::appkit {
 [[nodiscard]] bool isSecondHalf(std::uint32_t code);
 [[nodiscard]] std::uint32_t joinedHalves(std::uint32_t first, std::uint32_t second);
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

@@ -1,12 +1,12 @@
-#include "appkit/stores/gnustep/PropertyListFormats.h"
-#include "appkit/stores/gnustep/PropertyListText.h"
+#include "propertylists/PropertyListFormats.h"
+#include "propertylists/PropertyListText.h"
 
 #include <bit>
 #include <limits>
 #include <optional>
 #include <span>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 using platform::Array;
 using platform::Data;
@@ -255,4 +255,4 @@ Parsed parsedBinary(std::string_view bytes) {
     return BinaryReader(bytes).read();
 }
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists

@@ -1,4 +1,4 @@
-#include "appkit/stores/gnustep/PropertyListFormats.h"
+#include "propertylists/PropertyListFormats.h"
 
 #include <algorithm>
 #include <bit>
@@ -7,7 +7,7 @@
 #include <limits>
 #include <vector>
 
-namespace qbsp::appkit {
+namespace qbsp::propertylists {
 
 using platform::Array;
 using platform::Data;
@@ -161,4 +161,4 @@ std::string binaryBytes(const Value& value) {
     return BinaryWriter().bytes(value);
 }
 
-} // namespace qbsp::appkit
+} // namespace qbsp::propertylists
