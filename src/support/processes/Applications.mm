@@ -1,6 +1,7 @@
 #include "processes/Applications.h"
 
 #include "objc/GSTry.h"
+#include "processes/Bundle.h"
 #include "processes/Session.h"
 
 #import <Foundation/Foundation.h>
@@ -22,29 +23,23 @@ std::string utf8(NSString* text) {
     return text == nil ? "" : [text UTF8String];
 }
 
-NSBundle* bundleAt(const std::string& path) {
-    BOOL isFolder = NO;
-    [[NSFileManager defaultManager] fileExistsAtPath:text(path) isDirectory:&isFolder];
-    return isFolder ? [NSBundle bundleWithPath:text(path)] : nil;
-}
-
 bool isInBundle(const std::filesystem::path& executable) {
     return executable.parent_path().extension() == ".app";
 }
 
 // A tool that lies beside an application's executable is not the application.
-bool isMainExecutable(const std::filesystem::path& executable, NSBundle* bundle) {
-    return executable.filename() == std::filesystem::path(utf8([bundle executablePath])).filename();
+bool isMainExecutable(const std::filesystem::path& executable, const Bundle& bundle) {
+    return executable.filename() == bundle.executable.filename();
 }
 
 /// None when the process executes no application that has an identifier.
 std::optional<Application> applicationOf(const Process& process) {
     const std::filesystem::path executable = executableOf(process.pid);
     const std::string path = executable.parent_path();
-    NSBundle* bundle = isInBundle(executable) ? bundleAt(path) : nil;
-    if ([bundle bundleIdentifier] == nil || !isMainExecutable(executable, bundle))
+    const auto bundle = isInBundle(executable) ? bundleAt(path) : std::nullopt;
+    if (!bundle || bundle->identifier.empty() || !isMainExecutable(executable, *bundle))
         return std::nullopt;
-    return Application{process, path, utf8([bundle bundleIdentifier])};
+    return Application{process, path, bundle->identifier};
 }
 
 std::optional<Process> processFrom(const std::string& bundle) {
@@ -70,13 +65,13 @@ std::variant<Process, Reason> launchExecutable(const std::string& executable) {
 } // namespace
 
 std::string identifierOfBundle(const std::string& path) {
-    return utf8([bundleAt(path) bundleIdentifier]);
+    const auto bundle = bundleAt(path);
+    return bundle ? bundle->identifier : "";
 }
 
 std::string executableOfBundle(const std::string& path) {
-    NSString* executable = [bundleAt(path) executablePath];
-    const bool canBeExecuted = [[NSFileManager defaultManager] isExecutableFileAtPath:executable];
-    return canBeExecuted ? utf8(executable) : std::string();
+    const auto bundle = bundleAt(path);
+    return bundle && canBeExecuted(bundle->executable) ? bundle->executable.string() : "";
 }
 
 std::vector<Application> runningApplications() {
@@ -94,7 +89,7 @@ std::vector<Application> runningApplications(const std::string& identifier) {
 }
 
 std::variant<Process, Reason> launchApplication(const std::string& bundle) {
-    if (bundleAt(bundle) == nil)
+    if (!bundleAt(bundle))
         return Reason("There is no application at " + bundle + ".");
     const std::string executable = executableOfBundle(bundle);
     if (executable.empty())
