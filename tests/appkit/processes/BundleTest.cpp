@@ -14,9 +14,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::string identifier = "org.example.Quarry";
-const std::string described = R"({ CFBundleIdentifier = "org.example.Quarry"; NSExecutable = Quarry; })";
-
 /// A bundle in a folder of its own, which is empty at first.
 class BundleTest : public testing::Test {
 protected:
@@ -37,7 +34,8 @@ protected:
     TemporaryFolder folder;
     const fs::path bundle = folder.path() / "Quarry.app";
     const fs::path description = bundle / "Resources" / "Info-gnustep.plist";
-    const Bundle whole{identifier, bundle / "Quarry"};
+    const std::string described = R"({ CFBundleIdentifier = "org.example.Quarry"; NSExecutable = Quarry; })";
+    const Bundle whole{"org.example.Quarry", bundle / "Quarry"};
 };
 
 } // namespace
@@ -97,7 +95,7 @@ TEST_F(BundleTest, SharesAnIdentifierWithAnotherAndKeepsItsOwnExecutable) {
     std::ofstream(copy / "Info.plist") << described;
 
     EXPECT_EQ(read(), whole);
-    EXPECT_EQ(bundleAt(copy), (Bundle{identifier, copy / "Quarry"}));
+    EXPECT_EQ(bundleAt(copy), (Bundle{whole.identifier, copy / "Quarry"}));
 }
 
 TEST_F(BundleTest, HasNoExecutableOutsideItself) {
