@@ -1,7 +1,5 @@
 #include "simulated/Transcript.h"
 
-#include <utility>
-
 namespace qbsp::simulated {
 
 namespace {
@@ -19,6 +17,8 @@ std::string line(std::string_view operation, std::initializer_list<std::string> 
 } // namespace
 
 bool Transcript::fails() {
+    if (beforeEach_)
+        beforeEach_();
     ++operations_;
     return failing_ == operations_;
 }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace qbsp::simulated {
@@ -29,6 +31,10 @@ public:
     /// From now on the n-th operation, counted from 1, fails; all others work.
     void failOperation(std::size_t number);
 
+    /// From now on calls the function, if there is one, as each operation begins, before anything of it is
+    /// done.
+    void beforeEachOperation(std::function<void()> function) { beforeEach_ = std::move(function); }
+
     /// True when the operation that was to fail has been called.
     [[nodiscard]] bool hasFailed() const { return failing_ && operations_ >= *failing_; }
 
@@ -39,6 +45,7 @@ private:
     std::vector<std::string> lines_;
     std::size_t operations_ = 0;
     std::optional<std::size_t> failing_;
+    std::function<void()> beforeEach_;
 };
 
 } // namespace qbsp::simulated
