@@ -12,6 +12,14 @@ HostRegistrarState& hostRegistrar() {
     return hostRegistrar().isRegistered;
 }
 
+- (BOOL)registerApplication:(NSURL*)applicationURL {
+    return YES;
+}
+
+- (BOOL)unregisterApplication:(NSURL*)applicationURL {
+    return YES;
+}
+
 - (void)closeSorterApplication {
     hostRegistrar().messages.emplace_back("closeSorterApplication");
 }

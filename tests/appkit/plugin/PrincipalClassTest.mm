@@ -1,87 +1,11 @@
-#include "PaneHost.h"
-#include "RealSession.h"
+#include "LoadedPane.h"
 #include "on_appkit/ContractUser.h"
-
-#import <PreferencePanes/NSPreferencePane.h>
 
 #include <algorithm>
 
 namespace {
 
-NSString* const bundlePath = @PANE_BUNDLE;
-NSString* const hideListKey = @"UserSpecifiedFullScreenApplications";
-
-struct KeyCombo {
-    NSUInteger flags;
-    NSInteger code;
-};
-
-} // namespace
-
-/// The pane's operations, as a host knows them that does not link against the plug-in.
-@interface NSPreferencePane (Operations)
-- (void)toggleSorterProcess:(id)sender;
-- (void)loadHideAppData;
-- (NSInteger)indexOfAppInList:(NSString*)name;
-- (NSInteger)numberOfRowsInTableView:(NSTableView*)table;
-- (void)appDied:(NSNotification*)notification;
-- (void)showLoginItemEditFailureAlert:(NSString*)message;
-- (BOOL)shortcutRecorder:(id)recorder
-               isKeyCode:(NSInteger)code
-           andFlagsTaken:(NSUInteger)flags
-                  reason:(NSString**)reason;
-- (void)shortcutRecorder:(id)recorder keyComboDidChange:(KeyCombo)keyCombo;
-- (void)enableAttentionLabel:(id)sender;
-- (void)deleteFullScreenSettings;
-- (void)updateToggleButtonTitle;
-@end
-
-namespace {
-
-void store(id value, NSString* key, NSString* domain) {
-    NSUserDefaults* defaults = [[[NSUserDefaults alloc] init] autorelease];
-    [defaults synchronize];
-    [defaults setPersistentDomain:[NSDictionary dictionaryWithObject:value forKey:key] forName:domain];
-    ASSERT_TRUE([defaults synchronize]);
-}
-
-id stored(NSString* key, NSString* domain) {
-    NSUserDefaults* defaults = [[[NSUserDefaults alloc] init] autorelease];
-    [defaults synchronize];
-    return [[defaults persistentDomainForName:domain] objectForKey:key];
-}
-
-NSDictionary* hideFlags(NSString* name) {
-    return [NSDictionary dictionaryWithObject:[NSNumber numberWithBool:YES] forKey:name];
-}
-
-/// A pane that was made from the loaded bundle, in a host of the ordinary build with a registrar.
-class PrincipalClass : public RealSession {
-protected:
-    PrincipalClass() {
-        hostRegistrar() = {};
-        [pane loadMainView];
-    }
-
-    ~PrincipalClass() override {
-        [pane release];
-        NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
-        [defaults setPersistentDomain:[NSDictionary dictionary]
-                              forName:[[NSProcessInfo processInfo] processName]];
-    }
-
-    /// Makes the loaded class's pane.
-    static NSPreferencePane* makePane() {
-        NSBundle* bundle = [NSBundle bundleWithPath:bundlePath];
-        return [[[bundle principalClass] alloc] initWithBundle:bundle];
-    }
-
-    [[nodiscard]] NSString* buttonTitle() const {
-        return [[[pane mainView] valueForKey:@"toggleLaunchButton"] title];
-    }
-
-    NSPreferencePane* const pane = makePane();
-};
+using PrincipalClass = LoadedPane;
 
 bool flag(NSPreferencePane* pane, NSString* key) {
     return [[pane valueForKey:key] boolValue];
