@@ -99,13 +99,16 @@ const std::vector<std::string> shellPrefix{"/bin/sh", "-c", "exec \"$0\""};
 } // namespace
 
 std::string escapedValue(std::string_view text) {
+    // Readers skip the spaces around a value.
+    const auto first = std::min(text.find_first_not_of(' '), text.size());
+    const auto last = text.find_last_not_of(' ');
     std::string value;
-    if (text.starts_with(' ')) {
-        value = "\\s";
-        text.remove_prefix(1);
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (at < first || at > last)
+            value += "\\s";
+        else
+            appendEscaped(value, text[at]);
     }
-    for (const char character : text)
-        appendEscaped(value, character);
     return value;
 }
 

@@ -6,7 +6,8 @@
 
 namespace xdg {
 
-/// A text as the value of a key: line breaks, tabs, backslashes and a space at its beginning are escaped.
+/// A text as the value of a key: line breaks, tabs, backslashes and the spaces at its beginning and end are
+/// escaped.
 [[nodiscard]] std::string escapedValue(std::string_view text);
 
 /// The text of an escaped value.

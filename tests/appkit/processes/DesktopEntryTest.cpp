@@ -82,6 +82,11 @@ TEST(DesktopEntryText, LetsTheShellStartAProgramThatMustNotComeFirst) {
     EXPECT_EQ(commandLine("/a=b/50%"), R"("/bin/sh" "-c" "exec \"\$0\"" "/a=b/50%%")");
 }
 
+TEST(DesktopEntryText, KeepsTheSpacesAroundAName) {
+    for (const char* const name : {"  Sorter  ", " ", "   "})
+        EXPECT_EQ(parsedDesktopEntry(desktopEntryText({name, "/bin/true"}))->name, name);
+}
+
 TEST(ParsedEntry, IsSwitchedOffByTheUserInEitherWay) {
     const std::string entry = "[Desktop Entry]\nExec=/opt/sorter\n";
 
