@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # setup.sh PURPOSE...: installs the Debian packages that the purposes need and the machine lacks; says so first.
 # Purposes: core (the portable rooms and their tests), house (the house's own rules), application (the plug-in and what
-# it runs in), tests (of the application), coverage, tidy, package (the Debian package and the checks of it).
+# it runs in), tests (of the application), coverage, tidy, fuzzing, package (the Debian package and the checks of it).
 set -euo pipefail
 
 packages_for() {
@@ -19,6 +19,7 @@ packages_for() {
     house) echo clang-format doxygen ;;
     coverage) echo gcovr ;;
     tidy) echo clang-tidy ;;
+    fuzzing) echo clang libclang-rt-dev libxml2-dev ;;
     package) echo dpkg-dev file lintian appstream gzip xz-utils ;;
     *)
         echo "setup.sh: unknown purpose '$1'" >&2

@@ -11,5 +11,5 @@ if ! clang-format --version | grep -q "version $version\."; then
     echo "skipped: the format is that of clang-format $version, and this is $(clang-format --version)"
     exit 77
 fi
-find src standins tests \( -name '*.h' -o -name '*.cpp' -o -name '*.m' -o -name '*.mm' \) -print0 |
+find src standins tests fuzz \( -name '*.h' -o -name '*.cpp' -o -name '*.m' -o -name '*.mm' \) -print0 |
     xargs -0 clang-format --dry-run --Werror
