@@ -21,9 +21,10 @@ auto uninterrupted(Call call) {
     return {errno, std::generic_category()};
 }
 
-/// No error for a call that returned 0; else what it failed with.
-[[nodiscard]] inline std::error_code errorOf(int result) {
-    return result == 0 ? std::error_code() : lastError();
+/// Makes the system call as uninterrupted() does. No error when it returned 0; else what it failed with.
+template <class Call>
+[[nodiscard]] std::error_code attempt(Call call) {
+    return uninterrupted(call) == 0 ? std::error_code() : lastError();
 }
 
 } // namespace files

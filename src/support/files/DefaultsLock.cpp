@@ -6,6 +6,7 @@
 #include "files/Owner.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -13,7 +14,6 @@
 #include <sys/stat.h>
 #include <system_error>
 #include <thread>
-#include <tuple>
 #include <unistd.h>
 
 namespace files {
@@ -42,37 +42,70 @@ bool isStale(const fs::path& lock, const struct stat& status) {
     }
 }
 
+/// Moves the folder to the lock's place; EEXIST when there is a lock.
+std::error_code moveTo(const fs::path& folder, const fs::path& lock) {
+    return attempt(
+        [&] { return renameat2(AT_FDCWD, folder.c_str(), AT_FDCWD, lock.c_str(), RENAME_NOREPLACE); });
+}
+
 /// Removes the lock of that number. It is moved away first, so that another that took its place meanwhile is
 /// put back.
 std::error_code removeLock(const fs::path& lock, ino_t number) {
     const fs::path away = passingName(lock.parent_path(), beginningOfOurs);
-    if (rename(lock.c_str(), away.c_str()) != 0)
-        return lastError();
+    if (const auto failure = attempt([&] { return rename(lock.c_str(), away.c_str()); }))
+        return failure;
 
     struct stat status {};
 
     if (lstat(away.c_str(), &status) == 0 && status.st_ino != number)
-        return errorOf(renameat2(AT_FDCWD, away.c_str(), AT_FDCWD, lock.c_str(), RENAME_NOREPLACE));
+        return moveTo(away, lock);
     // What stays of it is no lock any more, and goes with the leftovers.
     std::error_code ignored;
     fs::remove_all(away, ignored);
     return {};
 }
 
-/// Makes the lock, with its owner in it, in one step; EEXIST when there is one.
-std::error_code makeLock(const fs::path& lock) {
+/// Makes a folder, and says what its number is. There is none after an error.
+std::error_code makeNumbered(const fs::path& folder, ino_t& number) {
+    if (const auto failure = attempt([&] { return mkdir(folder.c_str(), S_IRWXU); }))
+        return failure;
+
+    struct stat status {};
+
+    const auto failure = attempt([&] { return lstat(folder.c_str(), &status); });
+    if (failure)
+        rmdir(folder.c_str());
+    number = status.st_ino;
+    return failure;
+}
+
+/// Makes the lock, with its owner in it, in one step, and says what its number is; EEXIST when there is one.
+std::error_code makeLock(const fs::path& lock, ino_t& number) {
     const fs::path draft = passingName(lock.parent_path(), beginningOfOurs);
-    if (mkdir(draft.c_str(), S_IRWXU) != 0)
-        return lastError();
-    auto failure = errorOf(symlink(thisProcess().c_str(), (draft / ownerName).c_str()));
+    auto failure = makeNumbered(draft, number);
+    if (failure)
+        return failure;
+    failure = attempt([&] { return symlink(thisProcess().c_str(), (draft / ownerName).c_str()); });
     if (!failure)
-        failure = errorOf(renameat2(AT_FDCWD, draft.c_str(), AT_FDCWD, lock.c_str(), RENAME_NOREPLACE));
+        failure = moveTo(draft, lock);
     if (failure) {
         std::error_code ignored;
         fs::remove_all(draft, ignored);
     }
     // Where the file system cannot do that, the lock goes without an owner.
-    return failure == std::errc::invalid_argument ? errorOf(mkdir(lock.c_str(), S_IRWXU)) : failure;
+    return failure == std::errc::invalid_argument ? makeNumbered(lock, number) : failure;
+}
+
+/// The number of the lock that this process could not give back; 0 when there is none.
+std::atomic<ino_t>& notGivenBack() {
+    static std::atomic<ino_t> number = 0;
+    return number;
+}
+
+// A later lock may have the number of an earlier one.
+bool isNotGivenBack(const fs::path& lock, const struct stat& status) {
+    std::error_code failure;
+    return status.st_ino == notGivenBack() && fs::read_symlink(lock / ownerName, failure) == thisProcess();
 }
 
 } // namespace
@@ -101,24 +134,27 @@ DefaultsLock::DefaultsLock(const fs::path& defaultsFolder, Patience& patience)
         take(patience);
 }
 
-// One that was held too long may have been taken for stale, and be another's by now.
 DefaultsLock::~DefaultsLock() {
+    // One that stays is removed when this process takes the lock again, or by others once it has ended.
+    if (held_ && !giveBack())
+        notGivenBack() = made_;
+}
+
+// One that was held too long may have been taken for stale, and be another's by now.
+bool DefaultsLock::giveBack() const {
     struct stat status {};
 
-    if (held_ && lstat(place_.c_str(), &status) == 0 && status.st_ino == made_)
-        // One that cannot be removed is stale as soon as its owner has ended, or it is old enough.
-        std::ignore = removeLock(place_, made_);
+    const auto failure = attempt([&] { return lstat(place_.c_str(), &status); });
+    if (failure)
+        return failure == std::errc::no_such_file_or_directory;
+    return status.st_ino != made_ || !removeLock(place_, made_);
 }
 
 void DefaultsLock::take(Patience& patience) {
     removeLeftovers(place_.parent_path(), beginningOfOurs);
     do {
-        const auto failure = makeLock(place_);
-
-        struct stat status {};
-
-        held_ = !failure && lstat(place_.c_str(), &status) == 0;
-        made_ = status.st_ino;
+        const auto failure = makeLock(place_, made_);
+        held_ = !failure;
         if (!held_ && failure != std::errc::file_exists) {
             obstacle_ = "cannot be made: " + failure.message();
             return;
@@ -129,10 +165,14 @@ void DefaultsLock::take(Patience& patience) {
 bool DefaultsLock::mayTryAgain(Patience& patience) {
     struct stat status {};
 
-    if (lstat(place_.c_str(), &status) == 0 && isStale(place_, status)) {
+    const bool isThere = lstat(place_.c_str(), &status) == 0;
+    const bool isOurs = isThere && isNotGivenBack(place_, status);
+    if (isOurs || (isThere && isStale(place_, status))) {
         const auto failure = removeLock(place_, status.st_ino);
-        if (!failure)
-            return removedStale_ = true;
+        if (!failure) {
+            removedStale_ = removedStale_ || !isOurs;
+            return true;
+        }
         obstacle_ = "is stale and cannot be removed: " + failure.message();
         if (failure != std::errc::no_such_file_or_directory)
             return false;

@@ -51,6 +51,7 @@ public:
 
 private:
     void take(Patience& patience);
+    [[nodiscard]] bool giveBack() const;
     [[nodiscard]] bool mayTryAgain(Patience& patience);
 
     std::filesystem::path place_;

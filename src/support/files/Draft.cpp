@@ -41,23 +41,26 @@ std::error_code writeAll(const Descriptor& file, std::string_view content) {
 std::error_code setOwner(const Descriptor& file, const struct stat& wanted) {
     struct stat status {};
 
-    if (fstat(file.number(), &status) != 0)
-        return lastError();
+    if (const auto failure = attempt([&] { return fstat(file.number(), &status); }))
+        return failure;
     if (status.st_uid == wanted.st_uid && status.st_gid == wanted.st_gid)
         return {};
-    return errorOf(fchown(file.number(), wanted.st_uid, wanted.st_gid));
+    return attempt([&] { return fchown(file.number(), wanted.st_uid, wanted.st_gid); });
 }
 
 /// Gives the file what the one that it replaces has.
 std::error_code admit(const Descriptor& file, const fs::path& replaced) {
     struct stat status {};
 
-    if (stat(replaced.c_str(), &status) != 0)
-        return errno == ENOENT ? errorOf(fchmod(file.number(), ownerAlone)) : lastError();
+    const auto setMode = [&](mode_t mode) {
+        return attempt([&] { return fchmod(file.number(), mode); });
+    };
+    if (const auto failure = attempt([&] { return stat(replaced.c_str(), &status); }))
+        return failure == std::errc::no_such_file_or_directory ? setMode(ownerAlone) : failure;
     if (const auto failure = setOwner(file, status))
         return failure;
     constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
-    return errorOf(fchmod(file.number(), status.st_mode & permissions));
+    return setMode(status.st_mode & permissions);
 }
 
 std::error_code check(const fs::path& file, std::string_view content) {
@@ -89,24 +92,28 @@ std::error_code Draft::write(std::string_view content) const {
             return failure;
         if (const auto failure = admit(file, target_))
             return failure;
-        if (uninterrupted([&] { return fsync(file.number()); }) != 0)
-            return lastError();
+        if (const auto failure = attempt([&] { return fsync(file.number()); }))
+            return failure;
     }
     return check(path_, content);
 }
 
 std::error_code Draft::place() {
-    if (rename(path_.c_str(), target_.c_str()) != 0)
-        return lastError();
+    if (const auto failure = attempt([&] { return rename(path_.c_str(), target_.c_str()); }))
+        return failure;
     placed_ = true;
     return syncFolder(target_.parent_path());
 }
 
 std::error_code writeWhole(const fs::path& file, std::string_view content) {
-    if (const auto failure = makeFolders(file.parent_path()))
+    fs::path place = file;
+    auto failure = makeFolders(file.parent_path());
+    if (!failure)
+        failure = followLinks(place);
+    if (failure)
         return failure;
-    Draft draft(whereLinksLead(file));
-    const auto failure = draft.write(content);
+    Draft draft(place);
+    failure = draft.write(content);
     return failure ? failure : draft.place();
 }
 

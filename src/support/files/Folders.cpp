@@ -14,10 +14,16 @@ namespace fs = std::filesystem;
 namespace {
 
 std::error_code makeFolder(const fs::path& folder) {
-    if (mkdir(folder.c_str(), S_IRWXU) != 0)
-        return errno == EEXIST ? std::error_code() : lastError();
+    if (const auto failure = attempt([&] { return mkdir(folder.c_str(), S_IRWXU); }))
+        return failure == std::errc::file_exists ? std::error_code() : failure;
     // The umask may have taken rights of the owner's.
-    return errorOf(chmod(folder.c_str(), S_IRWXU));
+    return attempt([&] { return chmod(folder.c_str(), S_IRWXU); });
+}
+
+/// Whether that is why a link could not be read.
+bool isNoLink(std::error_code failure) {
+    return failure == std::errc::invalid_argument || failure == std::errc::no_such_file_or_directory ||
+           failure == std::errc::not_a_directory;
 }
 
 } // namespace
@@ -38,18 +44,26 @@ std::error_code syncFolder(const fs::path& folder) {
     const Descriptor descriptor(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY);
     if (!descriptor.isOpen())
         return lastError();
-    const auto failure = errorOf(uninterrupted([&] { return fsync(descriptor.number()); }));
+    const auto failure = attempt([&] { return fsync(descriptor.number()); });
     // Some file systems keep names safe without being asked, and refuse to be.
     return failure == std::errc::invalid_argument ? std::error_code() : failure;
 }
 
-fs::path whereLinksLead(const fs::path& file) {
+std::error_code followLinks(fs::path& file) {
     constexpr int links = 40; // as many as the system follows
     fs::path place = file;
-    std::error_code failure;
-    for (int followed = 0; followed < links && fs::is_symlink(place, failure); ++followed)
-        place = place.parent_path() / fs::read_symlink(place, failure);
-    return fs::is_symlink(place, failure) ? file : place;
+    for (int followed = 0; followed < links; ++followed) {
+        std::error_code failure;
+        const fs::path target = fs::read_symlink(place, failure);
+        if (isNoLink(failure)) {
+            file = place;
+            return {};
+        }
+        if (failure)
+            return failure;
+        place = place.parent_path() / target;
+    }
+    return {};
 }
 
 } // namespace files

@@ -12,8 +12,9 @@ namespace files {
 /// Has the names in the folder reach the disk.
 [[nodiscard]] std::error_code syncFolder(const std::filesystem::path& folder);
 
-/// Where a file of that path really lies: links are followed, also to a file that does not exist yet. The
-/// path itself when it is no link, or one of a circle.
-[[nodiscard]] std::filesystem::path whereLinksLead(const std::filesystem::path& file);
+/// Replaces the path by the one where the file really lies: links are followed, also to a file that does not
+/// exist yet. One that is no link stays, and so does one of a circle. An error when it cannot be found out
+/// whether it is a link.
+[[nodiscard]] std::error_code followLinks(std::filesystem::path& file);
 
 } // namespace files

@@ -41,8 +41,10 @@ std::optional<Number> takeNumber(std::string_view& text) {
 
 std::string thisProcess() {
     const auto process = processes::processOfNumber(getpid());
-    const auto start = process ? process->start : 0;
-    return std::to_string(getpid()) + "-" + std::to_string(start) + "-" + realm();
+    // A start that cannot be read now leaves the process unknown to others: 0 would be taken for an earlier
+    // one.
+    const std::string start = process ? std::to_string(process->start) : "unknown";
+    return std::to_string(getpid()) + "-" + start + "-" + realm();
 }
 
 Life lifeOf(std::string_view process) {
@@ -50,7 +52,10 @@ Life lifeOf(std::string_view process) {
     const auto start = pid ? takeNumber<unsigned long long>(process) : std::nullopt;
     if (!start || process != realm())
         return Life::unknown;
-    return processes::isAlive({*pid, *start}) ? Life::alive : Life::ended;
+    const processes::Process owner{*pid, *start};
+    if (processes::hasEnded(owner))
+        return Life::ended;
+    return processes::isAlive(owner) ? Life::alive : Life::unknown;
 }
 
 } // namespace files

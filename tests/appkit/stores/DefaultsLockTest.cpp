@@ -190,6 +190,23 @@ TEST_F(Lock, ThatIsStaleButCannotBeRemovedIsNotWaitedFor) {
     EXPECT_EQ(obstacle, "is stale and cannot be removed: Operation not permitted");
 }
 
+TEST_F(Lock, IsTakenAgainByTheProcessThatCouldNotGiveItBack) {
+    fs::permissions(temporary.path(), fs::perms(0777));
+
+    const std::string outcome = asAnotherUser([&] {
+        {
+            const DefaultsLock lock(folder, none);
+            fs::permissions(place.parent_path(), fs::perms(0555));
+        }
+        fs::permissions(place.parent_path(), fs::perms(0755));
+        const DefaultsLock again(folder, none);
+        return again.removedStale() ? "was another's" : "is held" + again.obstacle();
+    });
+
+    EXPECT_EQ(outcome, "is held");
+    EXPECT_EQ(filesBesideLock(), 0);
+}
+
 TEST_F(Lock, IsHeldByOneProcessAtATime) {
     constexpr int processes = 4;
     constexpr int turns = 50;

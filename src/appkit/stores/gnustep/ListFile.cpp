@@ -51,14 +51,14 @@ std::string bytesThatReadBack(const Dictionary& contents) {
 }
 
 std::error_code renameUnlessTaken(const fs::path& file, const fs::path& name) {
-    const auto failure =
-        files::errorOf(renameat2(AT_FDCWD, file.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE));
+    const auto failure = files::attempt(
+        [&] { return renameat2(AT_FDCWD, file.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE); });
     std::error_code ignored;
     if (failure != std::errc::invalid_argument)
         return failure;
     // Not every file system can do both in one step.
     return fs::exists(name, ignored) ? make_error_code(std::errc::file_exists)
-                                     : files::errorOf(rename(file.c_str(), name.c_str()));
+                                     : files::attempt([&] { return rename(file.c_str(), name.c_str()); });
 }
 
 /// Keeps the file under a name that nothing has.
@@ -86,6 +86,10 @@ std::string couldNotBeWritten(std::error_code failure) {
     return "could not be written: " + failure.message();
 }
 
+std::string couldNotBeRemoved(std::error_code failure) {
+    return "could not be removed: " + failure.message();
+}
+
 } // namespace
 
 ListFile readListFile(const fs::path& file, std::size_t limit) {
@@ -109,7 +113,9 @@ ListWriting writeListFile(const fs::path& file, const Dictionary& contents, cons
         return {"could not be written: what is to be saved has no form as a property list", {}};
     if (const auto failure = files::makeFolders(file.parent_path()))
         return {couldNotBeWritten(failure), {}};
-    const fs::path place = files::whereLinksLead(file);
+    fs::path place = file;
+    if (const auto failure = files::followLinks(place))
+        return {couldNotBeWritten(failure), {}};
     files::Draft draft(place);
     if (const auto failure = draft.write(bytes))
         return {couldNotBeWritten(failure), {}};
@@ -122,15 +128,19 @@ ListWriting writeListFile(const fs::path& file, const Dictionary& contents, cons
 }
 
 ListWriting removeListFile(const fs::path& file, const ListFile& found) {
-    const fs::path place = files::whereLinksLead(file);
+    fs::path place = file;
+    if (const auto failure = files::followLinks(place))
+        return {couldNotBeRemoved(failure), {}};
     ListWriting writing = makeWay(place, found);
     if (!writing.failure.empty() || found.state == State::absent)
         return writing;
-    const bool isThere = found.state == State::read;
-    const auto failure =
-        isThere && unlink(place.c_str()) != 0 ? files::lastError() : files::syncFolder(place.parent_path());
+    std::error_code failure;
+    if (found.state == State::read)
+        failure = files::attempt([&] { return unlink(place.c_str()); });
+    if (!failure)
+        failure = files::syncFolder(place.parent_path());
     if (failure)
-        writing.failure = "could not be removed: " + failure.message();
+        writing.failure = couldNotBeRemoved(failure);
     return writing;
 }
 

@@ -129,7 +129,10 @@ std::string StoredLists::saveNow(const fs::path& file, const Waiting& waiting) {
         return found.cause;
     const Dictionary wanted = merged(found.contents, waiting);
     if (found.state == State::read && wanted == found.contents) {
-        const auto failure = files::syncFolder(files::whereLinksLead(file).parent_path());
+        fs::path place = file;
+        auto failure = files::followLinks(place);
+        if (!failure)
+            failure = files::syncFolder(place.parent_path());
         return failure ? "could not be written: " + failure.message() : "";
     }
     const bool isRemoved = wanted.empty() && !waiting.whole;
