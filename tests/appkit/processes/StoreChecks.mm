@@ -2,6 +2,8 @@
 #include "appkit/stores/Preferences.h"
 #include "appkit/stores/PropertyLists.h"
 #include "appkit/stores/UserDefaults.h"
+#include "files/DefaultsLock.h"
+#include "files/Owner.h"
 
 #include "RealSession.h"
 
@@ -157,6 +159,27 @@ TEST_F(StoreCheck, WhatTheHostSetInItsStandardDefaultsIsFound) {
     [[NSUserDefaults standardUserDefaults] setObject:@"of the host" forKey:@"Key"];
 
     EXPECT_EQ(userDefaults.objectForKey({"Key"}), Value("of the host"));
+}
+
+TEST_F(StoreCheck, TheStandardDefaultsWriteUnderALockThatSaysWhoHasIt) {
+    NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
+    const fs::path lock = files::DefaultsLock::placeIn(defaultsFolder());
+    EXPECT_TRUE(userDefaults.synchronize());
+    [defaults setObject:@"under the lock" forKey:@"Key"];
+
+    // As GNUstep locks it, without an owner.
+    fs::create_directories(lock);
+    EXPECT_FALSE([defaults synchronize]) << "it cannot be known whether somebody has the lock";
+    EXPECT_FALSE(inFile({"RealProcessTests"}).exists());
+
+    fs::create_symlink(files::thisProcess(), lock / "owner");
+    fs::last_write_time(lock, fs::file_time_type::clock::now() - std::chrono::hours(1));
+    EXPECT_FALSE([defaults synchronize]) << "a process that lives has the lock";
+
+    fs::remove_all(lock);
+    EXPECT_TRUE([defaults synchronize]);
+    EXPECT_EQ(inFile({"RealProcessTests"}), Value("under the lock"));
+    EXPECT_FALSE(fs::exists(lock));
 }
 
 TEST_F(StoreCheck, WhatWasSetIsSavedByTheRunLoop) {

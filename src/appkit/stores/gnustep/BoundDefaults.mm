@@ -6,6 +6,7 @@
 #include <objc/runtime.h>
 
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 namespace qbsp::appkit {
@@ -18,6 +19,7 @@ using Synchronize = BOOL (*)(id, SEL);
 struct Bound {
     StoredLists* by = nullptr;
     Synchronize gnustepsOwn = nullptr;
+    std::unique_ptr<files::DefaultsLock> lock; ///< while GNUstep's defaults have it
 };
 
 Bound& bound() {
@@ -48,28 +50,47 @@ bool filesCanBeRead(const StoredLists& lists) {
     return canBe;
 }
 
-BOOL synchronizeUnlessItWouldWait(id defaults, SEL selector) {
+// -[NSUserDefaults _lockDefaultsFile:]
+BOOL takeLock(id, SEL, BOOL* wasTaken) {
     // Long enough for a lock that is held as usual, for some milliseconds.
     static files::Patience patience{std::chrono::milliseconds(300)};
-    StoredLists* const lists = bound().by;
-    return lists != nullptr && filesCanBeRead(*lists) && lists->lockCanBeTaken(patience) &&
-           bound().gnustepsOwn(defaults, selector);
+    *wasTaken = bound().lock != nullptr;
+    if (!*wasTaken)
+        bound().lock = bound().by->takeLock(patience);
+    return bound().lock != nullptr;
+}
+
+// -[NSUserDefaults _unlockDefaultsFile]
+void giveLockBack(id, SEL) {
+    bound().lock.reset();
+}
+
+BOOL synchronizeUnlessItWouldWait(id defaults, SEL selector) {
+    return bound().by != nullptr && filesCanBeRead(*bound().by) && bound().gnustepsOwn(defaults, selector);
+}
+
+/// Replaces the method of GNUstep's defaults; returns what it was.
+template <class Function>
+Function replaceMethod(SEL selector, Function function) {
+    Method method = class_getInstanceMethod([NSUserDefaults class], selector);
+    using AnyFunction = void (*)(); // between types of functions that the compiler takes for incompatible
+    // NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast): the runtime has one type for all methods.
+    const IMP before =
+        method_setImplementation(method, reinterpret_cast<IMP>(reinterpret_cast<AnyFunction>(function)));
+    return reinterpret_cast<Function>(reinterpret_cast<AnyFunction>(before));
+    // NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
 }
 
 } // namespace
 
 void boundStandardDefaults(StoredLists& lists) {
     bound().by = &lists;
+    bound().gnustepsOwn = replaceMethod(@selector(synchronize), synchronizeUnlessItWouldWait);
     // GNUstep waits 66 seconds for a lock, and again for the next file. It does so every half minute, and at
-    // the end.
-    Method method = class_getInstanceMethod([NSUserDefaults class], @selector(synchronize));
-    using AnyFunction = void (*)(); // between types of functions that the compiler takes for incompatible
-    // NOLINTBEGIN(cppcoreguidelines-pro-type-reinterpret-cast): the runtime has one type for all methods.
-    bound().gnustepsOwn =
-        reinterpret_cast<Synchronize>(reinterpret_cast<AnyFunction>(method_getImplementation(method)));
-    method_setImplementation(
-        method, reinterpret_cast<IMP>(reinterpret_cast<AnyFunction>(synchronizeUnlessItWouldWait)));
-    // NOLINTEND(cppcoreguidelines-pro-type-reinterpret-cast)
+    // the end. Nobody can tell who has one that it took, so that one of a process that was killed is in the
+    // way until it is old enough.
+    replaceMethod(sel_registerName("_lockDefaultsFile:"), takeLock);
+    replaceMethod(sel_registerName("_unlockDefaultsFile"), giveLockBack);
 }
 
 } // namespace qbsp::appkit

@@ -93,10 +93,10 @@ void StoredLists::saveAtEnd(files::Patience& patience) {
     saveAll(patience, Unlocked::atTheEnd, isLost);
 }
 
-bool StoredLists::lockCanBeTaken(files::Patience& patience) {
-    const files::DefaultsLock lock(defaultsFolder_, patience);
-    reportRemoved(lock);
-    return lock.isHeld();
+std::unique_ptr<files::DefaultsLock> StoredLists::takeLock(files::Patience& patience) {
+    auto lock = std::make_unique<files::DefaultsLock>(defaultsFolder_, patience);
+    reportRemoved(*lock);
+    return lock->isHeld() ? std::move(lock) : nullptr;
 }
 
 // Whoever is called once all is saved may come here again.

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -51,8 +52,9 @@ public:
     /// A save that comes later is a last one too: others are notified of the end after this was.
     void saveAtEnd(files::Patience& patience);
 
-    /// Whether the lock could be taken, waiting for it as long as there is patience; a stale one is removed.
-    [[nodiscard]] bool lockCanBeTaken(files::Patience& patience);
+    /// Takes the lock, waiting for it as long as there is patience; a stale one is removed. Null when it
+    /// cannot be had.
+    [[nodiscard]] std::unique_ptr<files::DefaultsLock> takeLock(files::Patience& patience);
 
     [[nodiscard]] bool waits() const { return !waiting_.empty(); }
 
