@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""check_string_tables.py ROOT: checks that each language's string table has exactly the keys that the code uses.
+"""check_string_tables.py ROOT: checks that each language's string tables have exactly the keys that are looked up.
 
 The code looks up the constants of type TextKey that it uses, and the texts that the Objective-C++ shell asks for in
-place. Prints each missing, unused or duplicate key, and each line that is not an entry; exits with 1 if there is one.
+place; a host looks up what it shows of the plug-in's description. Prints each missing, unused or duplicate key, and each line that is not an entry; exits with 1 if there is one.
 """
 
 import codecs
@@ -15,6 +15,7 @@ STRING = r'"(?:[^"\\]|\\.)*"'
 CONSTANT = re.compile(rf"TextKey (\w+)\{{\s*((?:{STRING}\s*)+)\}}")
 TEXT_IN_PLACE = re.compile(rf"(?:localized\(|localizedStringForKey:)\s*((?:@?{STRING}\s*)+)")
 ENTRY_OR_COMMENT = re.compile(rf"/\*.*?\*/|//[^\n]*|({STRING})\s*=\s*{STRING}\s*;", re.DOTALL)
+OF_HOSTS = {"NSPrefPaneIconLabel"}
 ESCAPES = {"n": "\n", "t": "\t", "r": "\r"}
 
 
@@ -55,11 +56,12 @@ def wrong_entries(text, expected):
 
 def main():
     root = pathlib.Path(sys.argv[1])
-    expected = looked_up(root / "src")
-    tables = [folder / "Localizable.strings" for folder in sorted((root / "resources").glob("*.lproj"))]
-    wrong = [f"{table.relative_to(root)}: {complaint}" for table in tables for complaint in complaints(table, expected)]
-    if not expected or not tables:
-        wrong.append(f"{len(expected)} keys in the code, {len(tables)} languages: there should be some of both")
+    expected = {"Localizable.strings": looked_up(root / "src"), "InfoPlist.strings": OF_HOSTS}
+    languages = sorted((root / "resources").glob("*.lproj"))
+    wrong = [f"{(language / table).relative_to(root)}: {complaint}" for language in languages
+             for table, keys in expected.items() for complaint in complaints(language / table, keys)]
+    if not all(expected.values()) or not languages:
+        wrong.append(f"{expected}, {len(languages)} languages: there should be some of both")
     for line in wrong:
         print(line)
     return 1 if wrong else 0
