@@ -23,6 +23,8 @@ execute_process(COMMAND ${GNUSTEP_CONFIG} --gui-libs OUTPUT_VARIABLE libraries O
 if(NOT flags OR NOT libraries)
     message(FATAL_ERROR "${GNUSTEP_CONFIG} prints no flags; it needs make")
 endif()
+execute_process(COMMAND ${GNUSTEP_CONFIG} --variable=GNUSTEP_SYSTEM_HEADERS
+                OUTPUT_VARIABLE GNUSTEP_HEADERS OUTPUT_STRIP_TRAILING_WHITESPACE)
 separate_arguments(flags)
 separate_arguments(libraries)
 
@@ -35,7 +37,7 @@ target_compile_options(gnustep_gui INTERFACE
     "$<$<COMPILE_LANGUAGE:OBJC,OBJCXX>:${flags};SHELL:-idirafter ${objc_headers}>"
     $<$<COMPILE_LANGUAGE:OBJC>:-std=c11>
     "$<$<COMPILE_LANGUAGE:OBJCXX>:-std=c++20;-fobjc-call-cxx-cdtors>")
-target_include_directories(gnustep_gui SYSTEM INTERFACE /usr/include/GNUstep)
+target_include_directories(gnustep_gui SYSTEM INTERFACE "${GNUSTEP_HEADERS}")
 target_link_libraries(gnustep_gui INTERFACE ${libraries})
 
 # Precompiles AppKit and further system headers for the target's Objective-C++ sources.

@@ -4,12 +4,15 @@
 # it runs in), tests (of the application), coverage, tidy, fuzzing, package (the Debian package and the checks of it).
 set -euo pipefail
 
+drawing='^gnustep-back[0-9.]+-cairo$'
+
+# A name that begins with ^ is a pattern, for a package that each release of Debian names after its own version of it.
 packages_for() {
     case $1 in
     core) echo cmake ninja-build clang libclang-rt-dev g++ nlohmann-json3-dev googletest python3 ;;
     application)
         echo cmake ninja-build make g++ gobjc++ gnustep-make nlohmann-json3-dev \
-            libgnustep-gui-dev libpreferencepanes-dev libxml2-dev gnustep-gui-runtime gnustep-base-runtime gnustep-back0.29-cairo \
+            libgnustep-gui-dev libpreferencepanes-dev libxml2-dev gnustep-gui-runtime gnustep-base-runtime "$drawing" \
             pkg-config libx11-dev libxkbcommon-dev fonts-dejavu-core xvfb openbox x11-utils
         ;;
     tests)
@@ -29,8 +32,20 @@ packages_for() {
 }
 
 is_installed() {
+    case $1 in
+    ^*)
+        dpkg-query -W -f '${Package} ${db:Status-Status}\n' | sed -n 's/ installed$//p' | grep -E "$1" >/dev/null
+        return
+        ;;
+    esac
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
+
+if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+    echo "This system is not Debian. What these Debian packages hold must be installed:" >&2
+    for purpose in "$@"; do packages_for "$purpose"; done | xargs >&2
+    exit 0
+fi
 
 missing=()
 for purpose in "$@"; do
@@ -40,10 +55,6 @@ for purpose in "$@"; do
 done
 [ ${#missing[@]} -eq 0 ] && exit 0
 
-command -v apt-get >/dev/null || {
-    echo "This machine has no apt-get. What is missing, by its names in Debian 12: ${missing[*]}" >&2
-    exit 1
-}
 as_root=()
 if [ "$(id -u)" -ne 0 ]; then
     command -v sudo >/dev/null || {

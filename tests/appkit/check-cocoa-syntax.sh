@@ -7,8 +7,16 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 shim="$root/tests/appkit/cocoa-shim"
 clang_headers=$(clang++ -print-resource-dir)/include
 gcc_headers=$(dirname "$(gcc -print-file-name=include/objc/objc.h)")/..
-system=/usr/include/x86_64-linux-gnu
-standard=/usr/include/c++/12
+machine=$(gcc -print-multiarch)
+system=/usr/include/$machine
+version=$(gcc -dumpversion)
+standard=/usr/include/c++/$version
+headers=$(gnustep-config --variable=GNUSTEP_SYSTEM_HEADERS)
+# The standard library's configuration for this machine, and for the other architecture.
+case $machine in
+x86_64-*) configuration_of_64=. configuration_of_32=32 ;;
+*) configuration_of_64=64 configuration_of_32=. ;;
+esac
 
 stamp=$1
 sources=$(cd "$root" && find src tests/appkit/cocoa-shim "$0" -type f -print0 | sort -z | xargs -0 sha256sum | sha256sum)
@@ -23,8 +31,8 @@ compile() { # ARCHITECTURE CONFIGURATION ARGUMENT...
     clang++ -target "$architecture-apple-macosx10.13" -U__APPLE__ -U__MACH__ -U__nonnull -D__linux__ -D__unix__ \
         -D__gnu_linux__ -D_GNU_SOURCE -D__ELF__ -Wno-everything -Werror=objc-method-access -fblocks -fobjc-exceptions \
         -std=c++20 -nostdinc -nostdinc++ -isystem "$shim" -isystem "$standard" \
-        -isystem "$system/c++/12/$configuration" -isystem "$clang_headers" -isystem "$system" -isystem /usr/include \
-        -idirafter "$gcc_headers" -isystem /usr/include/GNUstep -I "$root/src" -I "$root/src/support" "$@"
+        -isystem "$system/c++/$version/$configuration" -isystem "$clang_headers" -isystem "$system" -isystem /usr/include \
+        -idirafter "$gcc_headers" -isystem "$headers" -I "$root/src" -I "$root/src/support" "$@"
 }
 
 check() { # ARCHITECTURE CONFIGURATION FILE
@@ -40,8 +48,8 @@ check_all() { # ARCHITECTURE CONFIGURATION
     done < <(find "$root/src/appkit" -name '*.mm' -not -path '*/gnustep/*' | sort)
 }
 
-check_all x86_64 . >"$folder/x86_64.log" 2>&1 &
-check_all i386 32 >"$folder/i386.log" 2>&1
+check_all x86_64 "$configuration_of_64" >"$folder/x86_64.log" 2>&1 &
+check_all i386 "$configuration_of_32" >"$folder/i386.log" 2>&1
 wait $!
 cat "$folder"/*.log
 if [ -s "$folder/x86_64.log" ] || [ -s "$folder/i386.log" ]; then

@@ -58,7 +58,9 @@ void AppKitRecorderControl::setHidden(bool hidden) {
 }
 
 void AppKitRecorderControl::setKeyCombo(const KeyCombo& keyCombo) {
-    [view_.get() setKeyCode:keyCombo.code flags:keyCombo.flags];
+    // No key's code needs more than NSInteger has, also where that has 32 bits.
+    [view_.get() setKeyCode:static_cast<NSInteger>(keyCombo.code)
+                      flags:static_cast<NSUInteger>(keyCombo.flags)];
 }
 
 void AppKitRecorderControl::setDelegate(RecorderDelegate& delegate) {
