@@ -6,7 +6,8 @@
 @interface QBSPSaver : NSObject {
     bool (*save)();
     void (*saveAtEnd)();
-    NSTimer* timer;
+    NSTimer* timer; ///< fires in the distant future while nothing waits
+    BOOL isToSave;
 }
 
 /// Calls the first to save, which returns false when something still waits, and the second at the end.

@@ -18,18 +18,28 @@ static const NSTimeInterval betweenTries = 5;
     return self;
 }
 
-- (void)saveAfter:(NSTimeInterval)delay {
+// One timer for all saves: a run loop keeps one that has fired in every mode that it does not run in.
+- (NSTimer*)timer {
     if (timer != nil)
-        return;
-    timer = [NSTimer timerWithTimeInterval:delay
-                                    target:self
-                                  selector:@selector(save:)
-                                  userInfo:nil
-                                   repeats:NO];
+        return timer;
+    timer = [[NSTimer alloc] initWithFireDate:[NSDate distantFuture]
+                                     interval:betweenTries
+                                       target:self
+                                     selector:@selector(save:)
+                                     userInfo:nil
+                                      repeats:YES];
     NSRunLoop* loop = [NSRunLoop currentRunLoop];
     [loop addTimer:timer forMode:NSDefaultRunLoopMode];
     [loop addTimer:timer forMode:NSModalPanelRunLoopMode];
     [loop addTimer:timer forMode:NSEventTrackingRunLoopMode];
+    return timer;
+}
+
+- (void)saveAfter:(NSTimeInterval)delay {
+    if (isToSave)
+        return;
+    isToSave = YES;
+    [[self timer] setFireDate:[NSDate dateWithTimeIntervalSinceNow:delay]];
 }
 
 - (void)saveSoon {
@@ -41,7 +51,8 @@ static const NSTimeInterval betweenTries = 5;
 }
 
 - (void)save:(NSTimer*)aTimer {
-    timer = nil;
+    isToSave = NO;
+    [timer setFireDate:[NSDate distantFuture]];
     if (!save())
         [self saveLater];
 }
