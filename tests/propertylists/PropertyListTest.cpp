@@ -1,5 +1,7 @@
 #include "propertylists/PropertyList.h"
 
+#include "SampleLists.h"
+#include "UnreadableLists.h"
 #include "propertylists/PropertyListFormats.h"
 #include "propertylists/PropertyListText.h"
 
@@ -20,95 +22,6 @@ namespace {
 
 using namespace std::string_literals;
 
-std::string xmlWith(const std::string& root) {
-    return R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0">)" + root + "</plist>";
-}
-
-std::string repeated(const std::string& text, std::size_t times) {
-    std::string all;
-    for (std::size_t time = 0; time < times; ++time)
-        all += text;
-    return all;
-}
-
-/// The text in UTF-16, after a byte-order mark; its characters are ASCII.
-std::string utf16Of(const std::string& text, bool bigEndian) {
-    std::string bytes = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
-    for (const char character : text) {
-        if (bigEndian)
-            bytes += '\0';
-        bytes += character;
-        if (!bigEndian)
-            bytes += '\0';
-    }
-    return bytes;
-}
-
-/// A binary list of these objects, the last of which is the root; offsets and references have one byte.
-std::string binaryOf(const std::vector<std::string>& objects) {
-    std::string bytes(binaryBeginning);
-    std::string table;
-    for (const std::string& object : objects) {
-        table += static_cast<char>(bytes.size());
-        bytes += object;
-    }
-    const auto number = [](std::size_t value) {
-        return std::string(7, '\0') + static_cast<char>(value);
-    };
-    return bytes + table + std::string(6, '\0') + "\x01\x01" + number(objects.size()) +
-           number(objects.size() - 1) + number(bytes.size());
-}
-
-/// A binary list of that many levels, each of which holds the one below so many times; numbers have two
-/// bytes.
-std::string levelsOf(std::size_t levels, std::size_t times, const std::string& lowest) {
-    std::string bytes(binaryBeginning);
-    std::string table;
-    const auto two = [](std::size_t value) {
-        return ""s + static_cast<char>(value >> 8U) + static_cast<char>(value);
-    };
-    const auto add = [&](const std::string& object) {
-        table += two(bytes.size());
-        bytes += object;
-    };
-    add(lowest);
-    for (std::size_t level = 0; level < levels; ++level)
-        add(static_cast<char>(0xA0 + times) + repeated(two(level), times));
-    const auto number = [&](std::size_t value) {
-        return std::string(6, '\0') + two(value);
-    };
-    return bytes + table + std::string(6, '\0') + "\x02\x02" + number(levels + 1) + number(levels) +
-           number(bytes.size());
-}
-
-std::string changed(std::string bytes, std::size_t fromEnd, char value) {
-    bytes[bytes.size() - fromEnd] = value;
-    return bytes;
-}
-
-/// A value with every kind that a property list has, as it comes out of a file.
-Dictionary everyKind() {
-    return {{"text", "Größe <&> \"quoted\"\n\r\t漢字 \xF0\x9F\x98\x80"},
-            {"empty", ""},
-            {"escape", "\\U0041 \\\\U00 \\u0041 \\UD83D\\UDE00"},
-            {"controls", "\x01\x1F\x7F"s + '\0' + "\xEF\xBF\xBF\xEF\xBF\xBE"},
-            {"yes", true},
-            {"no", false},
-            {"integer", std::int32_t{-5}},
-            {"wide", std::int64_t{1} << 40U},
-            {"lowest", std::numeric_limits<std::int64_t>::min()},
-            {"beyond", std::uint64_t{1} << 63U},
-            {"highest", std::numeric_limits<std::uint64_t>::max()},
-            {"real", 0.30000000000000004},
-            {"tiny", std::numeric_limits<double>::denorm_min()},
-            {"infinite", -std::numeric_limits<double>::infinity()},
-            {"date", Date{86400}},
-            {"data", Data{std::byte{0}, std::byte{255}, std::byte{7}, std::byte{9}}},
-            {"no data", Data{}},
-            {"array", Array{true, "text", Array{}, Dictionary{{"", 1}}}},
-            {"Ünïcode.app", Dictionary{{"Clock", false}}}};
-}
-
 Parsed read(const std::string& bytes) {
     return parsedPropertyList(bytes);
 }
@@ -120,12 +33,6 @@ struct Readable {
 };
 
 class ReadableList : public testing::TestWithParam<Readable> {};
-
-struct Unreadable {
-    std::string name;
-    std::string bytes;
-    Fault fault = Fault::notAPropertyList;
-};
 
 class UnreadableList : public testing::TestWithParam<Unreadable> {};
 
@@ -233,128 +140,7 @@ TEST_P(UnreadableList, IsRefusedForTheRightReason) {
     EXPECT_EQ(wordsFor(std::get<Fault>(parsed)), wordsFor(GetParam().fault));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Of, UnreadableList,
-    testing::Values(
-        Unreadable{"nothing at all", ""}, Unreadable{"blanks alone", " \n\t "},
-        Unreadable{"a zero byte", "\0"s},
-        Unreadable{"zeros, as after a crash of the machine", std::string(4096, '\0')},
-        Unreadable{"prose", "this is { no property list"}, Unreadable{"a text without a container", "text"},
-        Unreadable{"invalid UTF-8", "{ a = \"\xFF\xFE\"; }"},
-        Unreadable{"an overlong zero", "{ a = \"\xC0\x80\"; }"},
-        Unreadable{"half a character", "{ a = \"\xF0\x9F"},
-        // XML
-        Unreadable{"XML that was cut short", list.substr(0, list.size() - 10)},
-        Unreadable{"XML that was cut in a tag", list.substr(0, 60)},
-        Unreadable{"an XML declaration alone", "<?xml version=\"1.0\"?>"},
-        Unreadable{"an empty list", xmlWith("")},
-        Unreadable{"another kind of XML", "<?xml version=\"1.0\"?><html/>"},
-        Unreadable{"text after the list", list + "more"}, Unreadable{"a second list", list + list.substr(38)},
-        Unreadable{"two roots", xmlWith("<dict/><dict/>"), Fault::moreThanOneRoot},
-        Unreadable{"a list in a list", xmlWith("<plist><dict/></plist>")},
-        Unreadable{"a list in an array", xmlWith("<array><plist/></array>")},
-        Unreadable{"text between elements", xmlWith("<dict>text<key>a</key><true/></dict>")},
-        Unreadable{"an element that is none", xmlWith("<array><set/></array>")},
-        Unreadable{"an element in a text", xmlWith("<string>a<true/></string>")},
-        Unreadable{"a key without a value", xmlWith("<dict><key>a</key></dict>")},
-        Unreadable{"a value without a key", xmlWith("<dict><true/></dict>")},
-        Unreadable{"two keys in a row", xmlWith("<dict><key>a</key><key>b</key><true/></dict>")},
-        Unreadable{"a key in an array", xmlWith("<array><key>a</key></array>")},
-        Unreadable{"a key alone", xmlWith("<key>a</key>")},
-        Unreadable{"tags that cross", xmlWith("<array><dict></array></dict>")},
-        Unreadable{"an integer that is none", xmlWith("<integer>seven</integer>")},
-        Unreadable{"an empty integer", xmlWith("<integer/>")},
-        Unreadable{"an integer of 65 bits", xmlWith("<integer>18446744073709551616</integer>")},
-        Unreadable{"an integer below 64 bits", xmlWith("<integer>-9223372036854775809</integer>")},
-        Unreadable{"a real that is none", xmlWith("<real>1.2.3</real>")},
-        Unreadable{"a date that is none", xmlWith("<date>yesterday</date>")},
-        Unreadable{"a thirteenth month", xmlWith("<date>2001-13-01T00:00:00Z</date>")},
-        Unreadable{"a date of a hundred digits",
-                   xmlWith("<date>" + std::string(100, '9') + "-01-01T00:00:00Z</date>")},
-        Unreadable{"data that are none", xmlWith("<data>***</data>")},
-        Unreadable{"an entity that nobody declared", xmlWith("<string>&a;</string>")},
-        Unreadable{
-            "an entity that nobody declared, with a document type elsewhere",
-            "<?xml version=\"1.0\"?><!DOCTYPE plist SYSTEM \"a.dtd\"><plist><string>&a;</string></plist>"},
-        Unreadable{"entities that stand for a billion",
-                   "<?xml version=\"1.0\"?><!DOCTYPE plist [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b "
-                   "\"&a;&a;&a;&a;&a;&a;\">"
-                   "<!ENTITY c \"&b;&b;&b;&b;&b;&b;\">]><plist version=\"&c;\"><string>&c;</string></plist>"},
-        Unreadable{"an entity that names a file",
-                   "<?xml version=\"1.0\"?><!DOCTYPE plist [<!ENTITY a SYSTEM \"file:///etc/passwd\">]>"
-                   "<plist><string>&a;</string></plist>"},
-        Unreadable{"a character that XML does not have", xmlWith("<string>\x01</string>")},
-        Unreadable{"a reference to a character that XML does not have", xmlWith("<string>&#1;</string>")},
-        Unreadable{"invalid UTF-8 in XML", xmlWith("<string>\xFF</string>")},
-        Unreadable{"XML in an encoding that is none",
-                   "<?xml version=\"1.0\" encoding=\"none\"?><plist><dict/></plist>"},
-        Unreadable{"half of UTF-16",
-                   utf16Of("<?xml version=\"1.0\"?>" + list.substr(38), false).substr(0, 81)},
-        Unreadable{"XML one level too deep", xmlWith(repeated("<array>", 513) + repeated("</array>", 513)),
-                   Fault::nestedTooDeeply},
-        Unreadable{"XML a hundred thousand levels deep", xmlWith(repeated("<array>", 100'000)),
-                   Fault::nestedTooDeeply},
-        Unreadable{"dictionaries a hundred thousand levels deep",
-                   xmlWith(repeated("<dict><key>a</key>", 100'000)), Fault::nestedTooDeeply},
-        Unreadable{"tags that are none, a hundred thousand levels deep",
-                   "<?xml?>" + repeated("<a>", 100'000)},
-        // Text
-        Unreadable{"a dictionary without its end", "{ a = b;"},
-        Unreadable{"an array without its end", "( a, b"}, Unreadable{"brackets that cross", "{ a = ( b }; )"},
-        Unreadable{"a dictionary without a value", "{ a = ; }"},
-        Unreadable{"a dictionary without an equals sign", "{ a b; }"},
-        Unreadable{"an array without commas", "( a b )"}, Unreadable{"an array of commas", "( , )"},
-        Unreadable{"a key that is a container", "{ ( a ) = b; }"},
-        Unreadable{"a quotation without its end", "{ a = \"b; }"},
-        Unreadable{"an escape without its end", "{ a = \"\\"},
-        Unreadable{"half an emoji as an escape", "{ a = \"\\UD83D\"; }"},
-        Unreadable{"a comment without its end", "{ a = b; /* c }"},
-        Unreadable{"a typed value of no type", "( <*X5> )"},
-        Unreadable{"a typed value without its end", "( <*I5 )"},
-        Unreadable{"a typed integer that is none", "( <*Ix> )"},
-        Unreadable{"a flag that is neither", "( <*BQ> )"}, Unreadable{"half a byte", "( <0ab> )"},
-        Unreadable{"bytes that are none", "( <xy> )"},
-        Unreadable{"two dictionaries", "{ a = b; } { c = d; }", Fault::moreThanOneRoot},
-        Unreadable{"an integer of a million digits", "( <*I" + std::string(1'000'000, '9') + "> )"},
-        Unreadable{"two hundred thousand brackets", std::string(200'000, '('), Fault::nestedTooDeeply},
-        Unreadable{"two hundred thousand braces", repeated("{a=", 200'000), Fault::nestedTooDeeply},
-        Unreadable{"brackets behind what is no comment", repeated("(a//,", 3) + repeated("(", 600),
-                   Fault::nestedTooDeeply},
-        // Binary
-        Unreadable{"the binary beginning alone", "bplist00"},
-        Unreadable{"a trailer of zeros", "bplist00" + std::string(40, '\0')},
-        Unreadable{"a trailer of ones", "bplist00" + std::string(40, '\xFF')},
-        Unreadable{"a binary list that was cut short", binaryBytes(everyKind()).substr(0, 200)},
-        Unreadable{"a root beyond the objects", changed(binaryOf({"\x09"}), 9, '\x05')},
-        Unreadable{"a table beyond the end", changed(binaryOf({"\x09"}), 1, '\x7F')},
-        Unreadable{"more objects than bytes", changed(binaryOf({"\x09"}), 17, '\x7F')},
-        Unreadable{"offsets of no bytes", changed(binaryOf({"\x09"}), 26, '\0')},
-        Unreadable{"offsets of nine bytes", changed(binaryOf({"\x09"}), 26, '\x09')},
-        Unreadable{"references of no bytes", changed(binaryOf({"\x09"}), 25, '\0')},
-        Unreadable{"an object of no kind", binaryOf({"\x70"})}, Unreadable{"a null", binaryOf({"\0"s})},
-        Unreadable{"a set", binaryOf({"\x09", "\xC1\0"s})},
-        Unreadable{"an identifier of an archive", binaryOf({"\x80\x01"})},
-        Unreadable{"an integer of 32 bytes", binaryOf({"\x15" + std::string(32, '\x01')})},
-        Unreadable{"an integer of 128 bits", binaryOf({"\x14\x01" + std::string(15, '\x01')})},
-        Unreadable{"a real of two bytes", binaryOf({"\x21\x01\x01"})},
-        Unreadable{"a date of four bytes", binaryOf({"\x32\x01\x01\x01\x01"})},
-        Unreadable{"a text longer than the file", binaryOf({"\x5F\x11\x7F\x7F"})},
-        Unreadable{"a count that is no integer", binaryOf({"\x5F\x09"})},
-        Unreadable{"a count of eight times ones", binaryOf({"\x5F\x13" + std::string(8, '\xFF')})},
-        Unreadable{"an array longer than the file", binaryOf({"\xAF\x12\x7F\xFF\xFF\xFF"})},
-        Unreadable{"half a character of sixteen bits", binaryOf({"\x61\xD8\x3D"})},
-        Unreadable{"an array that names nothing", binaryOf({"\xA1\x09"})},
-        Unreadable{"a dictionary with a key that is no text", binaryOf({"\x09", "\xD1\0\0"s})},
-        Unreadable{"an array that holds itself", binaryOf({"\xA1\0"s}), Fault::nestedTooDeeply},
-        Unreadable{"two dictionaries that hold each other",
-                   binaryOf({"\x51"
-                             "a",
-                             "\xD1\0\x02"s, "\xD1\0\x01"s}),
-                   Fault::nestedTooDeeply},
-        Unreadable{"a binary list one level too deep", levelsOf(513, 1, "\x09"), Fault::nestedTooDeeply},
-        Unreadable{"thirty levels of which each holds the one below twice",
-                   levelsOf(30, 2, "\x4F\x11\x3A\x98" + std::string(15000, 'x')), Fault::tooLarge}),
-    nameOf<Unreadable>);
+INSTANTIATE_TEST_SUITE_P(Of, UnreadableList, testing::ValuesIn(unreadableLists()), nameOf<Unreadable>);
 
 TEST(PropertyList, OfEveryKindIsReadAsItWasWrittenInEachFormat) {
     const Value value = everyKind();

@@ -151,4 +151,59 @@ TEST(UserFolders, FallBackOnTheAccountsHomeFolder) {
     EXPECT_EQ(configHome().filename(), ".config");
 }
 
+TEST_F(AutostartFolder, HoldsNoProgramWhereAnEntryIsDamagedOrHostileAndTakesANewOne) {
+    using namespace std::string_literals;
+    const std::string group = "[Desktop Entry]\n";
+    const std::string hostile[] = {
+        "",
+        "\n\n\n",
+        std::string(4096, '\0'),
+        std::string(1 << 20, '['),
+        std::string((1 << 20) + 1, ' '),
+        "\xFF\xFE[\0D\0e\0"s,
+        "Exec=/opt/sorter\n",
+        "[Desktop Entry\nExec=/opt/sorter\n",
+        "[Other]\nExec=/opt/sorter\n",
+        "[[Desktop Entry]]\nExec=/opt/sorter\n",
+        group,
+        group + "Exec\n",
+        group + "Exec=\n",
+        group + "=Exec\n",
+        group + "exec=/opt/sorter\n",
+        group + "#Exec=/opt/sorter\n",
+        group + "Exec[en]=/opt/sorter\n",
+        group + "Exec=\"/opt/sorter\n",
+        group + "Exec=\"\n",
+        group + "Exec=\\\n",
+        group + "Exec=/opt/sorter\\",
+        group + "Exec=/opt/sorter\nHidden=true\n",
+        group + "Exec=/opt/sorter\nX-GNOME-Autostart-enabled=false\n",
+        group + "[Other]\nExec=/opt/sorter\n",
+        group + std::string(500'000, '=') + "\n",
+    };
+    fs::create_directories(folder);
+    for (const std::string& text : hostile) {
+        std::ofstream(file, std::ios::binary) << text;
+        EXPECT_EQ(autostart.program(identifier), std::nullopt) << text.substr(0, 80);
+        EXPECT_FALSE(autostart.add(identifier, sorter));
+        EXPECT_EQ(autostart.program(identifier), sorter.program) << text.substr(0, 80);
+    }
+}
+
+TEST_F(AutostartFolder, HoldsNoProgramWhereAnEntryIsNoFile) {
+    fs::create_directories(folder);
+    const auto expectNothing = [&](const char* what) {
+        EXPECT_EQ(autostart.program(identifier), std::nullopt) << what;
+        fs::remove(file);
+    };
+    fs::create_directory(file);
+    expectNothing("a folder");
+    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    expectNothing("a pipe");
+    fs::create_symlink(file, file);
+    expectNothing("a link to itself");
+    fs::create_symlink("/dev/zero", file);
+    expectNothing("a device without an end");
+}
+
 } // namespace xdg

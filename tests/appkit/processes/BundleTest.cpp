@@ -1,6 +1,7 @@
 #include "processes/Bundle.h"
 
 #include "TemporaryFolder.h"
+#include "UnreadableLists.h"
 
 #include <gtest/gtest.h>
 
@@ -116,6 +117,11 @@ TEST_F(BundleTest, IsNotDescribedByWhatHoldsNoDictionary) {
          {"", "( CFBundleIdentifier )", "\"CFBundleIdentifier\"", "<plist><array/></plist>", "bplist00",
           "<plist><dict><key>CFBundleIdentifier</key></dict></plist>", "\xff\xfe\x00", "{", "}{"})
         EXPECT_EQ(bundleFrom(text), Bundle()) << text;
+}
+
+TEST_F(BundleTest, IsNotDescribedByAnyKindOfUnreadableList) {
+    for (const auto& [name, bytes, fault] : qbsp::propertylists::unreadableLists())
+        EXPECT_EQ(bundleFrom(bytes), Bundle()) << name;
 }
 
 TEST_F(BundleTest, IsNotDescribedByWhatIsNestedTooDeeply) {

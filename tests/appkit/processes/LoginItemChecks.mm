@@ -133,6 +133,19 @@ TEST_F(LoginItemCheck, IsNoJobWhenTheRecordCannotBeRead) {
     EXPECT_EQ(textOf(record.string() + ".unreadable"), "<plist><nonsense");
 }
 
+TEST_F(LoginItemCheck, IsNoJobWhateverElseTheRecordHolds) {
+    services.loginItemSetEnabled(embedded, true);
+    const auto record = homeFolder("XDG_DATA_HOME") / "com.quarrybook.SorterPane" / "LoginItems.plist";
+    for (const char* text :
+         {"", "()", "{}", "{ Jobs = text; }", "{ Jobs = {}; }", "{ Jobs = (); }",
+          "{ Jobs = ( text, (), <00> ); }", "{ Jobs = ( {} ); }", "{ Jobs = ( { Label = {}; } ); }",
+          "{ Jobs = ( { Label = <*I7>; } ); }", "{ Jobs = ( { OnDemand = <*BY>; } ); }",
+          "{ Jobs = ( { Label = ../../Sorter; } ); }", "{ jobs = (); "}) {
+        std::ofstream(record) << text;
+        EXPECT_FALSE(sorterIsAJob()) << text;
+    }
+}
+
 TEST_F(LoginItemCheck, RegistersAnApplicationThatIsThere) {
     AppKitLaunchServices launchServices;
     const auto update = platform::RegistrationUpdate::always;
