@@ -3,6 +3,7 @@
 #include "appkit/bridge/PropertyListConversion.h"
 #include "appkit/bridge/Strings.h"
 #include "appkit/services/HostProcess.h"
+#include "appkit/services/NotificationDaemon.h"
 #include "appkit/stores/OnceSaved.h"
 #include "objc/GSTry.h"
 
@@ -25,6 +26,10 @@ struct Notice {
                             userInfo:objectFromDictionary(userInfo)
                   deliverImmediately:immediately ? YES : NO];
         };
+        if (!notificationDaemonIsReady()) {
+            log.log("ERROR: " + name + " could not be posted: the daemon of notifications does not start");
+            return;
+        }
         if (objc::tryObjC(send) == nil)
             return;
         if (NSException* failure = objc::tryObjC(send))
@@ -33,6 +38,10 @@ struct Notice {
 };
 
 } // namespace
+
+AppKitDistributedNotificationCenter::AppKitDistributedNotificationCenter(platform::Log& log) : log_(log) {
+    boundWaitForNotificationDaemon();
+}
 
 void AppKitDistributedNotificationCenter::postNotificationName(
     platform::NotificationName name, const std::string& object,
