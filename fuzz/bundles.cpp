@@ -1,5 +1,6 @@
 // Whatever describes a bundle, its executable lies in it.
 
+#include "Input.h"
 #include "Require.h"
 #include "processes/Bundle.h"
 
@@ -42,7 +43,7 @@ private:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const Folder folder;
-    std::ofstream(folder.path() / "Info.plist") << std::string(data, data + size);
+    std::ofstream(folder.path() / "Info.plist") << qbsp::fuzz::textOf(data, size);
     const auto bundle = processes::bundleAt(folder.path());
     require(bundle.has_value(), "a folder is a bundle");
     if (bundle->executable.empty())

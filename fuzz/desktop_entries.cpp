@@ -1,6 +1,7 @@
 // Any text is read as a desktop entry or as none; and what was read, or comes from elsewhere, is written so
 // that it is read again as it was.
 
+#include "Input.h"
 #include "Require.h"
 #include "xdg/DesktopEntry.h"
 
@@ -25,7 +26,7 @@ void checkRoundTrip(const xdg::DesktopEntry& entry) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string text(data, data + size);
+    const std::string text(qbsp::fuzz::textOf(data, size));
     if (const auto entry = xdg::parsedDesktopEntry(text))
         checkRoundTrip(*entry);
     const std::size_t half = std::min(text.find('\n'), text.size());

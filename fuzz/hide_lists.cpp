@@ -2,6 +2,7 @@
 // list that is stored, the factory's defaults, the description of an application that is chosen, its path,
 // and the rows to edit.
 
+#include "Input.h"
 #include "Require.h"
 #include "SameValue.h"
 #include "Stage.h"
@@ -127,8 +128,7 @@ private:
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace qbsp;
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): bytes as a text
-    const auto parsed = propertylists::parsedPropertyList({reinterpret_cast<const char*>(data), size});
+    const auto parsed = propertylists::parsedPropertyList(fuzz::textOf(data, size));
     const auto* const value = std::get_if<platform::Value>(&parsed);
     const auto* const input = value == nullptr ? nullptr : value->as<platform::Dictionary>();
     if (input == nullptr)

@@ -1,19 +1,18 @@
 // Any bytes are read as a property list or refused; and what was read is written so that it is read again as
 // it was.
 
+#include "Input.h"
 #include "Require.h"
 #include "SameValue.h"
 #include "propertylists/PropertyList.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
+#include <variant>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace qbsp;
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): bytes as a text
-    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    const auto parsed = propertylists::parsedPropertyList(bytes);
+    const auto parsed = propertylists::parsedPropertyList(fuzz::textOf(data, size));
     const auto* const value = std::get_if<platform::Value>(&parsed);
     if (value == nullptr)
         return 0;

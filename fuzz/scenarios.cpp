@@ -1,5 +1,6 @@
 // Any text is either refused with a message, or played; and it is played the same way each time.
 
+#include "Input.h"
 #include "Require.h"
 #include "scenario/Json.h"
 #include "scenario/Lines.h"
@@ -43,7 +44,7 @@ Performance performanceOf(const std::string& scenario) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace qbsp::fuzz;
-    const std::string scenario(data, data + size);
+    const std::string scenario(textOf(data, size));
     const auto first = performanceOf(scenario);
     require(qbsp::scenario::isUtf8(first.transcript), "a transcript is UTF-8");
     require(performanceOf(scenario) == first, "a scenario is played the same way each time");

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # setup.sh PURPOSE...: installs the Debian packages that the purposes need and the machine lacks; says so first.
 # Purposes: core (the portable rooms and their tests), house (the house's own rules), application (the plug-in and what
-# it runs in), tests (of the application), coverage, tidy, fuzzing, package (the Debian package and the checks of it).
+# it runs in), tests (of the application), coverage, tidy, fuzzing, mutants, package (the Debian package and the checks
+# of it).
 set -euo pipefail
 
 drawing='^gnustep-back[0-9.]+-cairo$'
@@ -23,6 +24,7 @@ packages_for() {
     coverage) echo gcovr ;;
     tidy) echo clang-tidy ;;
     fuzzing) echo clang libclang-rt-dev libxml2-dev ;;
+    mutants) echo git python3-clang ;;
     package) echo dpkg-dev file lintian appstream gzip xz-utils ;;
     *)
         echo "setup.sh: unknown purpose '$1'" >&2

@@ -1,0 +1,81 @@
+"""Tries mutants: a copy of the project in which one file at a time is changed, built and tested."""
+
+import enum
+import shutil
+import subprocess
+import time
+from pathlib import Path
+
+from changes import Change
+
+
+class Outcome(enum.Enum):
+    KILLED = "killed"
+    SURVIVED = "survived"
+    NOT_COMPILED = "does not compile"
+
+
+class Trial:
+    """A copy of the project with a build of its own. It is kept, so that the next run builds only what changed."""
+
+    def __init__(self, root: Path, place: Path):
+        self.root = root
+        self.copy = place
+        self.build = place / "build/mutants"
+        self._mirror()
+        self._must("cmake", "--preset", "mutants")
+        self._must("cmake", "--build", "--preset", "mutants")
+        start = time.monotonic()
+        if not self._passes(600):
+            raise RuntimeError("the tests fail without any change")
+        # A mutant that never ends is killed too.
+        self.limit = 10 * (time.monotonic() - start) + 5
+
+    def outcome(self, change: Change) -> Outcome:
+        original = (self.root / change.file).read_bytes()
+        mutated = self.copy / change.file
+        mutated.write_bytes(change.apply(original))
+        try:
+            if self._run("cmake", "--build", "--preset", "mutants").returncode != 0:
+                return Outcome.NOT_COMPILED
+            return Outcome.SURVIVED if self._passes(self.limit) else Outcome.KILLED
+        finally:
+            mutated.write_bytes(original)
+
+    def _passes(self, limit: float) -> bool:
+        replay = str(self.build / "bin/pane-replay")
+        compare = str(self.root / "tests/scenarios/play-and-compare")
+        commands = [[str(self.build / "tests/unit_tests"), "--gtest_fail_fast", "--gtest_brief=1"]]
+        commands += [[compare, replay, str(scenario)] for scenario in self._scenarios()]
+        try:
+            return all(self._run(*command, timeout=limit).returncode == 0 for command in commands)
+        except subprocess.TimeoutExpired:
+            return False
+
+    def _scenarios(self) -> list[Path]:
+        return sorted((self.root / "tests/scenarios").glob("*.scenario"))
+
+    def _run(self, *command: str, timeout: float | None = None) -> subprocess.CompletedProcess:
+        return subprocess.run(command, cwd=self.copy, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                              timeout=timeout, check=False)
+
+    def _must(self, *command: str) -> None:
+        result = self._run(*command)
+        if result.returncode != 0:
+            raise RuntimeError(f"{' '.join(command)} failed:\n{result.stdout.decode()}")
+
+    def _mirror(self) -> None:
+        """Makes the copy's sources those of the project; a file that is the same is not touched."""
+        self.copy.mkdir(parents=True, exist_ok=True)
+        listed = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], cwd=self.root, check=True,
+                                stdout=subprocess.PIPE, text=True).stdout.splitlines()
+        present = {file for file in listed if (self.root / file).is_file()}
+        for old in self.copy.rglob("*"):
+            name = str(old.relative_to(self.copy))
+            if old.is_file() and not name.startswith("build/") and name not in present:
+                old.unlink()
+        for file in present:
+            source, target = self.root / file, self.copy / file
+            if not target.exists() or target.read_bytes() != source.read_bytes():
+                target.parent.mkdir(parents=True, exist_ok=True)
+                shutil.copy(source, target)
