@@ -40,11 +40,7 @@ target_compile_options(gnustep_gui INTERFACE
 target_include_directories(gnustep_gui SYSTEM INTERFACE "${GNUSTEP_HEADERS}")
 target_link_libraries(gnustep_gui INTERFACE ${libraries})
 
-# Precompiles AppKit and further system headers for the target's Objective-C++ sources.
-#   precompile_appkit(<target> <header>...)
-function(precompile_appkit target)
-    set(headers AppKit/AppKit.h functional memory optional string vector ${ARGN})
-    foreach(header IN LISTS headers)
-        target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:OBJCXX>:<${header}$<ANGLE-R>>")
-    endforeach()
-endfunction()
+# What the adapters and the plug-in link, whatever the system.
+add_library(application_kit ALIAS gnustep_gui)
+add_library(preference_panes INTERFACE)
+target_link_libraries(preference_panes INTERFACE ${PREFERENCE_PANES_LIBRARY})
