@@ -9,9 +9,10 @@ namespace processes {
 
 /// A bundle as its files describe it at this moment.
 struct Bundle {
-    std::string identifier; ///< empty when it has none
-    std::filesystem::path
-        executable; ///< as it names it, whether or not it is there; empty when it names none
+    /// Empty when it has none.
+    std::string identifier;
+    /// Whether or not it is there; empty when the bundle names none.
+    std::filesystem::path executable;
 
     friend bool operator==(const Bundle&, const Bundle&) = default;
 };
@@ -20,8 +21,8 @@ struct Bundle {
 inline constexpr std::size_t largestDescription = std::size_t{1} << 20U;
 
 /// The bundle at that path; none when there is no folder. It is described by the first file of these that is
-/// there: Info-gnustep.plist in Resources or in the bundle itself, Info.plist in either. An executable named
-/// relative to the bundle, and lies in it.
+/// there: Info-gnustep.plist in Resources or in the bundle itself, Info.plist in either. Its executable is
+/// named relative to the bundle and lies in it.
 [[nodiscard]] std::optional<Bundle> bundleAt(const std::filesystem::path& path);
 
 /// Whether the path is that of a file which this user may execute.
