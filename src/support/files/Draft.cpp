@@ -38,29 +38,34 @@ std::error_code writeAll(const Descriptor& file, std::string_view content) {
     return {};
 }
 
-std::error_code setOwner(const Descriptor& file, const struct stat& wanted) {
+/// Gives the file the owner, the group and the permissions. A group that the user is not in cannot be given;
+/// the user's own may then do what everybody may.
+std::error_code give(const Descriptor& file, const struct stat& wanted) {
+    mode_t permissions = wanted.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
+
     struct stat status {};
 
     if (const auto failure = attempt([&] { return fstat(file.number(), &status); }))
         return failure;
-    if (status.st_uid == wanted.st_uid && status.st_gid == wanted.st_gid)
-        return {};
-    return attempt([&] { return fchown(file.number(), wanted.st_uid, wanted.st_gid); });
+    if (status.st_uid != wanted.st_uid || status.st_gid != wanted.st_gid) {
+        const auto failure = attempt([&] { return fchown(file.number(), wanted.st_uid, wanted.st_gid); });
+        const bool isOwned = status.st_uid == wanted.st_uid;
+        if (failure && (failure != std::errc::operation_not_permitted || !isOwned))
+            return failure;
+        if (failure)
+            permissions &= ~S_IRWXG | (permissions & S_IRWXO) << 3U;
+    }
+    return attempt([&] { return fchmod(file.number(), permissions); });
 }
 
 /// Gives the file what the one that it replaces has.
 std::error_code admit(const Descriptor& file, const fs::path& replaced) {
     struct stat status {};
 
-    const auto setMode = [&](mode_t mode) {
-        return attempt([&] { return fchmod(file.number(), mode); });
-    };
-    if (const auto failure = attempt([&] { return stat(replaced.c_str(), &status); }))
-        return failure == std::errc::no_such_file_or_directory ? setMode(ownerAlone) : failure;
-    if (const auto failure = setOwner(file, status))
-        return failure;
-    constexpr mode_t permissions = S_IRWXU | S_IRWXG | S_IRWXO;
-    return setMode(status.st_mode & permissions);
+    const auto failure = attempt([&] { return stat(replaced.c_str(), &status); });
+    if (failure == std::errc::no_such_file_or_directory)
+        return attempt([&] { return fchmod(file.number(), ownerAlone); });
+    return failure ? failure : give(file, status);
 }
 
 std::error_code check(const fs::path& file, std::string_view content) {

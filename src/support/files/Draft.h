@@ -7,9 +7,10 @@
 namespace files {
 
 /// A file that is written beside the one that it is to replace, and takes that one's place whole or not at
-/// all. It has the permissions and the owner of the one it replaces; without one, its owner alone may read
-/// and write it, whatever the umask. It goes with this unless it was put into place; one whose process was
-/// killed goes with the next draft of the same file.
+/// all. It has the permissions, the owner and the group of the one it replaces, but for a group that the user
+/// is not in: then the user's own group may do what everybody may. Without one to replace, its owner alone
+/// may read and write it, whatever the umask. It goes with this unless it was put into place; one whose
+/// process was killed goes with the next draft of the same file.
 class Draft {
 public:
     /// The file to replace: not a link, which would be replaced itself.

@@ -150,6 +150,37 @@ TEST_F(WholeFile, KeepsItsPermissionsAndItsOwner) {
     EXPECT_EQ(status.st_gid, isRoot ? 5678 : getegid());
 }
 
+TEST_F(WholeFile, OfAGroupThatTheUserIsNotInIsWrittenAndOpensToNobodyElse) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make such a file";
+    constexpr uid_t nobody = 65534;
+    put(file, "old");
+    fs::permissions(temporary.path(), fs::perms(0755));
+    fs::permissions(file, fs::perms(0664));
+    ASSERT_EQ(chown(folder.c_str(), nobody, nobody), 0);
+    ASSERT_EQ(chown(file.c_str(), nobody, 5678), 0);
+
+    const std::string failure = asAnotherUser([&] { return writeWhole(file, "new").message(); });
+
+    EXPECT_EQ(failure, "Success");
+    EXPECT_EQ(textOf(file), "new");
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
+}
+
+TEST_F(WholeFile, OfAnotherOwnerIsLeftAsItIs) {
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make such a file";
+    put(file, "old");
+    fs::permissions(temporary.path(), fs::perms(0755));
+    fs::permissions(folder, fs::perms(0777));
+
+    const std::string failure = asAnotherUser([&] { return writeWhole(file, "new").message(); });
+
+    EXPECT_EQ(failure, "Operation not permitted");
+    EXPECT_EQ(textOf(file), "old");
+    EXPECT_EQ(filesIn(folder), 1);
+}
+
 TEST_F(WholeFile, IsWrittenWhereALinkLeads) {
     fs::create_directory(folder / "elsewhere");
     put(folder / "elsewhere/target", "old");
