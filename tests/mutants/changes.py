@@ -88,7 +88,7 @@ class Finder:
             yield from self._operator(self._end(children[0]), self._start(children[1]))
         elif kind == CursorKind.CALL_EXPR and cursor.spelling.startswith("operator"):
             yield from self._overloaded(cursor, children)
-        elif kind == CursorKind.UNARY_OPERATOR and self._text(cursor).startswith("!"):
+        elif kind == CursorKind.UNARY_OPERATOR and re.match(r"!(?!=)", self._text(cursor)):
             yield (self._start(cursor), self._start(cursor) + 1), [""]
         elif kind == CursorKind.CXX_BOOL_LITERAL_EXPR:
             yield self._span(cursor), ["false" if self._text(cursor) == "true" else "true"]
@@ -105,7 +105,8 @@ class Finder:
         if kind == CursorKind.COMPOUND_STMT:
             yield from self._statements(children)
         elif kind in (CursorKind.IF_STMT, CursorKind.CASE_STMT, *LOOPS):
-            yield from self._statements(children[1:])
+            for child in children[1:]:
+                yield from self._statements([child])
 
     def _operator(self, start: int, end: int):
         found = re.search(rb"[-+*/&|<>=!]+", self.source[start:end])
@@ -113,11 +114,11 @@ class Finder:
             yield (start + found.start(), start + found.end()), OPERATORS.get(found.group().decode(), [])
 
     def _overloaded(self, cursor: Cursor, children: list[Cursor]):
+        # The compiler may call another operator than the one that is written: == for !=, <=> for <.
         for child in children:
-            if child.spelling == cursor.spelling and self._text(child) == cursor.spelling.removeprefix("operator"):
-                yield self._span(child), OPERATORS.get(self._text(child), [])
-                if self._text(child) == "!":
-                    yield self._span(child), [""]
+            text = self._text(child)
+            if child.spelling == cursor.spelling and len(children) == (2 if text == "!" else 3):
+                yield self._span(child), [""] if text == "!" else OPERATORS.get(text, [])
 
     def _numbers(self, cursor: Cursor) -> list[str]:
         text = self._text(cursor)
@@ -138,8 +139,8 @@ class Finder:
         start, end = self._span(condition)
         if condition.kind == CursorKind.VAR_DECL:
             yield (end, end), ["; false"]
-        elif condition.kind != CursorKind.DECL_STMT and not self._text(condition).startswith("!"):
-            yield (start, end), [f"!({self._text(condition)})"]
+        elif condition.kind != CursorKind.DECL_STMT:
+            yield (start, end), self._negations(self._text(condition))
         if cursor.kind == CursorKind.IF_STMT and len(children) == 2:
             yield self._span(cursor), ["{}"]
 
@@ -147,11 +148,16 @@ class Finder:
         kind = value.type.get_canonical().kind
         text = self._text(value)
         if kind == TypeKind.BOOL:
-            yield self._span(value), [f"!({text})"]
+            yield self._span(value), self._negations(text)
         elif kind in (TypeKind.INT, TypeKind.UINT, TypeKind.LONG, TypeKind.ULONG, TypeKind.DOUBLE, TypeKind.USHORT):
             yield self._span(value), [f"({text}) + 1"]
         elif text not in ("{}", "nullptr", "std::nullopt"):
             yield self._span(value), ["{}"]
+
+    def _negations(self, condition: str) -> list[str]:
+        # A change of the operator negates these already.
+        is_negated = re.fullmatch(r"!(?!=)[^&|?]*|[^&|?]* [!=]= [^&|?]*|true|false", condition)
+        return [] if is_negated else [f"!({condition})"]
 
     def _statements(self, statements: list[Cursor]):
         for statement in statements:
