@@ -1,6 +1,7 @@
 #import "appkit/view/ControlMaking.h"
 
 #include "appkit/bridge/Strings.h"
+#import "appkit/view/QBSPButton.h"
 #import "appkit/view/QBSPNameFormatter.h"
 #include "pane/PaneControls.h"
 
@@ -22,7 +23,7 @@ NSTextField* makeText(NSTextAlignment alignment, NSFont* font) {
 }
 
 NSButton* makeButton(NSButtonType type) {
-    NSButton* button = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
+    NSButton* button = [[[QBSPButton alloc] initWithFrame:NSZeroRect] autorelease];
     [button setButtonType:type];
     [button setTitle:@""];
     [button setFont:[NSFont systemFontOfSize:[NSFont systemFontSize]]];

@@ -3,7 +3,7 @@
 #import "appkit/view/QBSPPaneView.h"
 #import "appkit/view/TextMeasuring.h"
 
-namespace qbsp::contracts {
+namespace qbsp::appkit {
 
 namespace {
 
@@ -27,7 +27,7 @@ TEST(PaneView, HasRoomForTheLongestReasonBeforeItIsShown) {
         setStringValue:@"Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well."];
 
     const NSRect frame = [field frame];
-    EXPECT_GE(NSHeight(frame), appkit::sizeOfWrappedText(field, NSWidth(frame)).height);
+    EXPECT_GE(NSHeight(frame), sizeOfWrappedText(field, NSWidth(frame)).height);
 }
 
-} // namespace qbsp::contracts
+} // namespace qbsp::appkit

@@ -1,0 +1,7 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+/// A push button or a check box.
+@interface QBSPButton : NSButton
+@end
