@@ -64,6 +64,11 @@ using qbsp::appkit::PaneShell;
     shell->willSelect();
 }
 
+- (void)didSelect {
+    [super didSelect];
+    [shell->view() takeFocus];
+}
+
 - (void)willUnselect {
     shell->willUnselect();
 }

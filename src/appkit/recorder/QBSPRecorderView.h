@@ -45,7 +45,7 @@ struct QBSPRecorderParts;
 - (NSString*)accessibilityLabel;
 
 /// What a screen reader says of the recorder: its role, its value ("Command Shift C"), and why it refused a
-/// key, which is nil when it refused none. GNUstep's views lack these methods, so they are declared here.
+/// key, or its tool tip when it refused none. GNUstep's views lack these methods, so they are declared here.
 - (NSString*)accessibilityRole;
 - (NSString*)accessibilityRoleDescription;
 - (id)accessibilityValue;

@@ -198,11 +198,9 @@ struct QBSPRecorderParts {
 #pragma mark - Drawing
 
 - (void)drawRect:(NSRect)__attribute__((unused))rect {
-    const bool isKey = [[self window] isKeyWindow];
     drawRecorder({.bounds = [self bounds],
                   .text = [self stringValue],
                   .isListening = _parts->logic.isArmed(),
-                  .hasFocus = isKey && [[self window] firstResponder] == self,
                   .isEmpty = !holdsKey(_parts->logic.combo()),
                   .isClearPressed = _parts->isClearPressed});
 }
@@ -241,7 +239,8 @@ struct QBSPRecorderParts {
 }
 
 - (NSString*)accessibilityHelp {
-    return _parts->listener.reasons().shown();
+    NSString* reason = _parts->listener.reasons().shown();
+    return reason == nil ? [self toolTip] : reason;
 }
 
 - (BOOL)accessibilityPerformPress {

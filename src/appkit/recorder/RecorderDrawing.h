@@ -9,7 +9,6 @@ struct RecorderLook {
     NSRect bounds;
     NSString* text;
     bool isListening;
-    bool hasFocus;
     bool isEmpty;
     bool isClearPressed;
 };

@@ -31,6 +31,7 @@ void ViewListener::comboChanged(const KeyCombo& combo) {
 
 void ViewListener::lookChanged() {
     [static_cast<NSView*>(static_cast<id>(view_)) setNeedsDisplay:YES];
+    NSAccessibilityPostNotification(view_, NSAccessibilityValueChangedNotification);
 }
 
 } // namespace qbsp::recorder

@@ -1,5 +1,7 @@
 #import "appkit/view/ControlFlow.h"
 
+#include "appkit/drawing/Fonts.h"
+#import "appkit/view/Alignment.h"
 #import "appkit/view/TextMeasuring.h"
 
 #include <algorithm>
@@ -10,17 +12,20 @@ namespace qbsp::appkit {
 namespace {
 
 constexpr CGFloat gap = 10;
-constexpr CGFloat minimumPushButtonWidth = 100;
+constexpr CGFloat minimumPushButtonWidth = 94;
 constexpr CGFloat pushButtonPadding = 24;
-constexpr CGFloat pushButtonHeight = 26;
+// Even, like every such number here: heights that differ by an even number have the same middle.
+constexpr CGFloat pushButtonHeightPadding = 6;
+constexpr CGFloat checkBoxHeightPadding = 4;
 constexpr CGFloat unlimited = 10000;
 
 NSSize buttonSize(NSButton* button) {
     const NSSize size = [[button cell] cellSize];
+    const CGFloat line = lineHeight([button font]);
     if (![button isBordered])
-        return NSMakeSize(std::ceil(size.width) + 4, std::ceil(size.height));
+        return NSMakeSize(std::ceil(size.width) + 4, line + checkBoxHeightPadding);
     return NSMakeSize(std::max(minimumPushButtonWidth, std::ceil(size.width) + pushButtonPadding),
-                      std::max(pushButtonHeight, std::ceil(size.height)));
+                      line + pushButtonHeightPadding);
 }
 
 NSSize contentSize(NSView* control, CGFloat width) {
@@ -37,15 +42,24 @@ CGFloat naturalWidth(NSView* control) {
     return contentSize(control, unlimited).width;
 }
 
+bool takesSpace(NSView* control) {
+    if ([control isHidden])
+        return false;
+    return ![control isKindOfClass:[NSTextField class]] ||
+           [[static_cast<NSTextField*>(control) stringValue] length] > 0;
+}
+
 ControlFlow::ControlFlow(const std::vector<NSView*>& controls, CGFloat width) : width_(width) {
     for (NSView* control : controls)
-        if (![control isHidden])
+        if (takesSpace(control))
             append(control);
+    endLine();
 }
 
 void ControlFlow::append(NSView* control) {
     const NSSize size = contentSize(control, width_);
     if (x_ > 0 && x_ + size.width > width_) {
+        endLine();
         lineTop_ += lineHeight_ + gap;
         lineHeight_ = 0;
         x_ = 0;
@@ -55,9 +69,26 @@ void ControlFlow::append(NSView* control) {
     x_ += size.width + gap;
 }
 
+void ControlFlow::endLine() {
+    for (; lineStart_ < places_.size(); ++lineStart_) {
+        NSRect& rect = places_[lineStart_].rect;
+        rect.origin.y += std::floor((lineHeight_ - NSHeight(rect)) / 2);
+    }
+}
+
+CGFloat ControlFlow::firstLineHeight() const {
+    CGFloat height = 0;
+    for (const Place& place : places_)
+        if (place.rect.origin.x == 0 && place.control != places_.front().control)
+            break;
+        else
+            height = std::max(height, NSHeight(place.rect));
+    return height;
+}
+
 void ControlFlow::place(NSPoint origin) const {
-    for (const auto& [control, frame] : places_)
-        [control setFrame:NSOffsetRect(frame, origin.x, origin.y)];
+    for (const auto& [control, rect] : places_)
+        setVisiblePart(control, NSOffsetRect(rect, origin.x, origin.y));
 }
 
 } // namespace qbsp::appkit

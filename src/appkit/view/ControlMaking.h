@@ -1,5 +1,8 @@
 #pragma once
 
+#import "appkit/view/QBSPButton.h"
+#import "appkit/view/QBSPHideTable.h"
+
 #import <AppKit/AppKit.h>
 
 namespace qbsp::appkit {
@@ -9,19 +12,15 @@ namespace qbsp::appkit {
 /// A wrapping text field that the user cannot edit.
 [[nodiscard]] NSTextField* makeLabel(NSTextAlignment alignment);
 
-/// The same in the small system font, aligned left.
-[[nodiscard]] NSTextField* makeRemark();
+/// Makes the field such a text in a smaller font, aligned left.
+void makeRemark(NSTextField* field);
 
-[[nodiscard]] NSButton* makeCheckBox();
-[[nodiscard]] NSButton* makePushButton();
+[[nodiscard]] QBSPButton* makeCheckBox();
+[[nodiscard]] QBSPButton* makePushButton();
 
-/// The hide list's table: a column of names, which cannot be edited, and one of check boxes.
-[[nodiscard]] NSTableView* makeHideTable();
+[[nodiscard]] QBSPHideTable* makeHideTable();
 
 /// A scroll view with the table in it.
 [[nodiscard]] NSScrollView* makeScrollView(NSTableView* table);
-
-/// Sets the element's accessibility label, where the system supports it.
-void setAccessibilityLabel(id element, NSString* label);
 
 } // namespace qbsp::appkit

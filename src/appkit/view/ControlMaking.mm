@@ -1,16 +1,13 @@
 #import "appkit/view/ControlMaking.h"
 
-#include "appkit/bridge/Strings.h"
-#import "appkit/view/QBSPButton.h"
-#import "appkit/view/QBSPNameFormatter.h"
-#include "pane/PaneControls.h"
+#import "appkit/drawing/CheckBoxImages.h"
+#include "appkit/drawing/Fonts.h"
 
 namespace qbsp::appkit {
 
 namespace {
 
-NSTextField* makeText(NSTextAlignment alignment, NSFont* font) {
-    NSTextField* text = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
+void makeText(NSTextField* text, NSTextAlignment alignment, NSFont* font) {
     [text setEditable:NO];
     [text setSelectable:NO];
     [text setBezeled:NO];
@@ -19,90 +16,55 @@ NSTextField* makeText(NSTextAlignment alignment, NSFont* font) {
     [text setAlignment:alignment];
     [text setFont:font];
     [[text cell] setWraps:YES];
-    return text;
 }
 
-NSButton* makeButton(NSButtonType type) {
-    NSButton* button = [[[QBSPButton alloc] initWithFrame:NSZeroRect] autorelease];
+QBSPButton* makeButton(NSButtonType type) {
+    QBSPButton* button = [[[QBSPButton alloc] initWithFrame:NSZeroRect] autorelease];
     [button setButtonType:type];
     [button setTitle:@""];
-    [button setFont:[NSFont systemFontOfSize:[NSFont systemFontSize]]];
+    [button setFont:controlFont()];
+    // The form draws the ring.
+    [[button cell] setFocusRingType:NSFocusRingTypeNone];
     return button;
-}
-
-NSTableColumn* makeColumn(NSString* identifier, NSCell* cell) {
-    NSTableColumn* column = [[[NSTableColumn alloc] initWithIdentifier:identifier] autorelease];
-    [column setDataCell:cell];
-    [[column headerCell] setStringValue:@""];
-    return column;
-}
-
-NSTableColumn* makeNameColumn() {
-    NSTextFieldCell* cell = [[[NSTextFieldCell alloc] initTextCell:@""] autorelease];
-    [cell setFormatter:[[[QBSPNameFormatter alloc] init] autorelease]];
-    [cell setLineBreakMode:NSLineBreakByTruncatingTail];
-    NSTableColumn* column = makeColumn(nsString(nameColumn.text), cell);
-    [column setEditable:NO];
-    [column setResizingMask:NSTableColumnAutoresizingMask];
-    return column;
-}
-
-NSTableColumn* makeFlagColumn() {
-    NSButtonCell* cell = [[[NSButtonCell alloc] initTextCell:@""] autorelease];
-    [cell setButtonType:NSSwitchButton];
-    [cell setImagePosition:NSImageOnly];
-    NSTableColumn* column = makeColumn(nsString(flagColumn.text), cell);
-    [column setResizingMask:NSTableColumnNoResizing];
-    [[column headerCell] setAlignment:NSCenterTextAlignment];
-    return column;
 }
 
 } // namespace
 
 NSTextField* makeLabel(NSTextAlignment alignment) {
-    return makeText(alignment, [NSFont systemFontOfSize:[NSFont systemFontSize]]);
+    NSTextField* label = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
+    makeText(label, alignment, controlFont());
+    return label;
 }
 
-NSTextField* makeRemark() {
-    return makeText(NSLeftTextAlignment, [NSFont systemFontOfSize:[NSFont smallSystemFontSize]]);
+void makeRemark(NSTextField* field) {
+    makeText(field, NSLeftTextAlignment, remarkFont());
 }
 
-NSButton* makeCheckBox() {
-    NSButton* checkBox = makeButton(NSSwitchButton);
+QBSPButton* makeCheckBox() {
+    QBSPButton* checkBox = makeButton(NSSwitchButton);
     [checkBox setImagePosition:NSImageLeft];
+    setCheckBoxImages([checkBox cell], controlFont());
     return checkBox;
 }
 
-NSButton* makePushButton() {
-    NSButton* button = makeButton(NSMomentaryPushInButton);
+QBSPButton* makePushButton() {
+    QBSPButton* button = makeButton(NSMomentaryPushInButton);
     [button setBezelStyle:NSRoundedBezelStyle];
     return button;
 }
 
-NSTableView* makeHideTable() {
-    NSTableView* table = [[[NSTableView alloc] initWithFrame:NSMakeRect(0, 0, 300, 100)] autorelease];
-    [table addTableColumn:makeNameColumn()];
-    [table addTableColumn:makeFlagColumn()];
-    [table setAllowsColumnReordering:NO];
-    [table setAllowsMultipleSelection:NO];
-    [table setUsesAlternatingRowBackgroundColors:YES];
-    [table setRowHeight:20];
-    return table;
+QBSPHideTable* makeHideTable() {
+    return [[[QBSPHideTable alloc] initWithFrame:NSMakeRect(0, 0, 300, 100)] autorelease];
 }
 
 NSScrollView* makeScrollView(NSTableView* table) {
     NSScrollView* scrollView = [[[NSScrollView alloc] initWithFrame:NSZeroRect] autorelease];
     [scrollView setHasVerticalScroller:YES];
-    [scrollView setBorderType:NSBezelBorder];
+    [scrollView setAutohidesScrollers:YES];
+    [scrollView setBorderType:NSLineBorder];
+    [scrollView setBackgroundColor:[NSColor textBackgroundColor]];
     [scrollView setDocumentView:table];
     return scrollView;
-}
-
-void setAccessibilityLabel(id element, NSString* label) {
-    // By name, because not every AppKit has it.
-    SEL setLabel = NSSelectorFromString(@"setAccessibilityLabel:");
-    if ([element respondsToSelector:setLabel])
-        [element performSelector:setLabel withObject:label];
 }
 
 } // namespace qbsp::appkit

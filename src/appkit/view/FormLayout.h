@@ -10,7 +10,7 @@ namespace qbsp::appkit {
 enum class Stretch { none, width, widthAndHeight };
 
 /// A row of a form: an optional label, and controls side by side. A row that stretches has exactly one
-/// control. A row whose controls are all hidden takes no space.
+/// control. A row whose controls are all hidden or empty takes no space.
 struct FormRow {
     NSTextField* label;
     std::vector<NSView*> controls;
@@ -20,13 +20,17 @@ struct FormRow {
 };
 
 /// Lays out a form from the top of a flipped view, with labels aligned right in one column and controls in
-/// the next. The form's view owns the views.
+/// the next; where there is no room for that, with each label above its controls. The form's view owns the
+/// views.
 class FormLayout {
 public:
     void addRow(FormRow row);
 
     /// A text above the form, wrapped to its whole width.
     void setIntroduction(NSTextField* introduction) { introduction_ = introduction; }
+
+    /// What the form needs to show everything when it is as wide as that or, if that is not enough, wider.
+    [[nodiscard]] NSSize minimumSize(CGFloat width) const;
 
     /// Sets the frames of all views for a form of that size.
     void layOut(NSSize size) const;
@@ -35,6 +39,7 @@ public:
 
 private:
     struct Columns {
+        bool areStacked;
         CGFloat labelWidth;
         CGFloat controlX;
         CGFloat controlWidth;
@@ -42,11 +47,15 @@ private:
 
     [[nodiscard]] Columns columns(CGFloat width) const;
     [[nodiscard]] CGFloat labelWidth() const;
+    [[nodiscard]] CGFloat widestWordOfLabels() const;
     [[nodiscard]] CGFloat controlWidth() const;
     [[nodiscard]] CGFloat introductionHeight(CGFloat width) const;
     [[nodiscard]] static CGFloat flowWidth(const FormRow& row, const Columns& columns);
+    [[nodiscard]] static CGFloat labelHeight(const FormRow& row, const Columns& columns);
+    [[nodiscard]] static CGFloat controlTop(const FormRow& row, const Columns& columns);
     [[nodiscard]] static CGFloat heightOf(const FormRow& row, const Columns& columns);
-    [[nodiscard]] CGFloat heightLeft(NSSize size, const Columns& columns) const;
+    [[nodiscard]] CGFloat heightWithoutStretching(CGFloat width) const;
+    static void placeLabel(const FormRow& row, const Columns& columns, CGFloat y);
     static void place(const FormRow& row, const Columns& columns, CGFloat y, CGFloat height);
 
     NSTextField* introduction_ = nil;

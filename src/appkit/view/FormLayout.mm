@@ -1,5 +1,7 @@
 #import "appkit/view/FormLayout.h"
 
+#include "appkit/drawing/Fonts.h"
+#import "appkit/view/Alignment.h"
 #import "appkit/view/ControlFlow.h"
 #import "appkit/view/TextMeasuring.h"
 
@@ -13,19 +15,24 @@ namespace {
 
 constexpr CGFloat margin = 20;
 constexpr CGFloat columnGap = 10;
-constexpr CGFloat minimumStretchedHeight = 84;
-constexpr CGFloat minimumLabelShare = 0.25;
+constexpr CGFloat gapBelowStackedLabel = 4;
 
 bool isVisible(const FormRow& row) {
-    return std::ranges::any_of(row.controls, [](NSView* control) { return ![control isHidden]; });
+    return std::ranges::any_of(row.controls, takesSpace);
 }
 
 CGFloat widestControl(const FormRow& row) {
     CGFloat widest = 0;
     for (NSView* control : row.controls)
-        if (![control isHidden])
+        if (takesSpace(control) && ![control isKindOfClass:[NSTextField class]])
             widest = std::max(widest, naturalWidth(control));
     return widest;
+}
+
+/// The first line of what the label stands beside: a table's is as high as the label's own.
+CGFloat firstLineHeight(const FormRow& row) {
+    return row.stretch == Stretch::none ? ControlFlow(row.controls, 0).firstLineHeight()
+                                        : lineHeight([row.label font]);
 }
 
 } // namespace
@@ -34,28 +41,47 @@ void FormLayout::addRow(FormRow row) {
     rows_.push_back(std::move(row));
 }
 
+NSSize FormLayout::minimumSize(CGFloat width) const {
+    CGFloat widest = 0;
+    for (const FormRow& row : rows_)
+        if (isVisible(row) && row.stretch == Stretch::none)
+            widest = std::max(widest, widestControl(row));
+    const CGFloat wideEnough = std::max(width, widest + 2 * margin);
+    CGFloat height = heightWithoutStretching(wideEnough);
+    for (const FormRow& row : rows_)
+        if (row.stretch == Stretch::widthAndHeight)
+            height += row.minimumHeight;
+    return NSMakeSize(wideEnough, height);
+}
+
 void FormLayout::layOut(NSSize size) const {
     const Columns formColumns = columns(size.width);
-    const CGFloat introductionWidth = size.width - 2 * margin;
-    const CGFloat stretchedHeight = std::max(minimumStretchedHeight, heightLeft(size, formColumns));
     CGFloat y = margin + introductionHeight(size.width);
-    [introduction_ setFrame:NSMakeRect(margin, margin, introductionWidth, y - margin)];
+    [introduction_ setFrame:NSMakeRect(margin, margin, size.width - 2 * margin, y - margin)];
     for (const FormRow& row : rows_) {
         if (!isVisible(row))
             continue;
-        const bool stretches = row.stretch == Stretch::widthAndHeight;
-        const CGFloat height = stretches ? stretchedHeight : heightOf(row, formColumns);
+        CGFloat height = heightOf(row, formColumns);
+        if (row.stretch == Stretch::widthAndHeight)
+            height += std::max(row.minimumHeight, size.height - heightWithoutStretching(size.width));
         place(row, formColumns, y + row.gapAbove, height);
         y += row.gapAbove + height;
     }
 }
 
-// Labels can wrap and most controls cannot, so the controls get their width first.
+// Labels can wrap between words and most controls cannot wrap, so the controls get their width first.
 FormLayout::Columns FormLayout::columns(CGFloat width) const {
     const CGFloat room = width - 2 * margin - columnGap;
-    const CGFloat leftByControls = std::max(room - controlWidth(), std::floor(room * minimumLabelShare));
-    const CGFloat labels = std::min(labelWidth(), leftByControls);
-    return {.labelWidth = labels, .controlX = margin + labels + columnGap, .controlWidth = room - labels};
+    const CGFloat labels = std::min(labelWidth(), room - controlWidth());
+    if (labels < widestWordOfLabels())
+        return {.areStacked = true,
+                .labelWidth = width - 2 * margin,
+                .controlX = margin,
+                .controlWidth = width - 2 * margin};
+    return {.areStacked = false,
+            .labelWidth = labels,
+            .controlX = margin + labels + columnGap,
+            .controlWidth = room - labels};
 }
 
 CGFloat FormLayout::controlWidth() const {
@@ -74,6 +100,14 @@ CGFloat FormLayout::labelWidth() const {
     return widest;
 }
 
+CGFloat FormLayout::widestWordOfLabels() const {
+    CGFloat widest = 0;
+    for (const FormRow& row : rows_)
+        if (row.label != nil && isVisible(row))
+            widest = std::max(widest, widthOfWidestWord(row.label));
+    return widest;
+}
+
 CGFloat FormLayout::introductionHeight(CGFloat width) const {
     return introduction_ == nil ? 0 : sizeOfWrappedText(introduction_, width - 2 * margin).height;
 }
@@ -84,34 +118,53 @@ CGFloat FormLayout::flowWidth(const FormRow& row, const Columns& columns) {
     return mayExtendLeft ? std::max(columns.controlWidth, widestControl(row)) : columns.controlWidth;
 }
 
-CGFloat FormLayout::heightOf(const FormRow& row, const Columns& columns) {
-    const CGFloat label = row.label == nil ? 0 : sizeOfWrappedText(row.label, columns.labelWidth).height;
-    return std::max({row.minimumHeight, label, ControlFlow(row.controls, flowWidth(row, columns)).height()});
+CGFloat FormLayout::labelHeight(const FormRow& row, const Columns& columns) {
+    return row.label == nil ? 0 : sizeOfWrappedText(row.label, columns.labelWidth).height;
 }
 
-CGFloat FormLayout::heightLeft(NSSize size, const Columns& columns) const {
-    CGFloat left = size.height - 2 * margin - introductionHeight(size.width);
+CGFloat FormLayout::controlTop(const FormRow& row, const Columns& columns) {
+    const bool isBelow = columns.areStacked && row.label != nil;
+    return isBelow ? labelHeight(row, columns) + gapBelowStackedLabel : 0;
+}
+
+/// For a row that stretches in height, without what it gets of the height that is left.
+CGFloat FormLayout::heightOf(const FormRow& row, const Columns& columns) {
+    const CGFloat top = controlTop(row, columns);
+    if (row.stretch == Stretch::widthAndHeight)
+        return top;
+    const CGFloat controls = ControlFlow(row.controls, flowWidth(row, columns)).height();
+    return std::max(top + controls, columns.areStacked ? 0 : labelHeight(row, columns));
+}
+
+CGFloat FormLayout::heightWithoutStretching(CGFloat width) const {
+    const Columns formColumns = columns(width);
+    CGFloat height = 2 * margin + introductionHeight(width);
     for (const FormRow& row : rows_)
         if (isVisible(row))
-            left -= row.gapAbove + (row.stretch == Stretch::widthAndHeight ? 0 : heightOf(row, columns));
-    return left;
+            height += row.gapAbove + heightOf(row, formColumns);
+    return height;
+}
+
+/// The label's first line and the controls' have the same middle, and so the same baseline.
+void FormLayout::placeLabel(const FormRow& row, const Columns& columns, CGFloat y) {
+    const CGFloat above =
+        columns.areStacked ? 0 : std::floor((firstLineHeight(row) - lineHeight([row.label font])) / 2);
+    [row.label setAlignment:columns.areStacked ? NSLeftTextAlignment : NSRightTextAlignment];
+    [row.label setFrame:NSMakeRect(margin, y + above, columns.labelWidth, labelHeight(row, columns))];
 }
 
 void FormLayout::place(const FormRow& row, const Columns& columns, CGFloat y, CGFloat height) {
-    const auto centred = [&](CGFloat own) {
-        return row.stretch == Stretch::widthAndHeight ? y : y + std::floor((height - own) / 2);
-    };
-    if (row.label != nil) {
-        const CGFloat own = sizeOfWrappedText(row.label, columns.labelWidth).height;
-        [row.label setFrame:NSMakeRect(margin, centred(own), columns.labelWidth, own)];
-    }
+    if (row.label != nil)
+        placeLabel(row, columns, y);
+    const CGFloat top = controlTop(row, columns);
     if (row.stretch != Stretch::none) {
-        [row.controls.front() setFrame:NSMakeRect(columns.controlX, y, columns.controlWidth, height)];
+        setVisiblePart(row.controls.front(),
+                       NSMakeRect(columns.controlX, y + top, columns.controlWidth, height - top));
         return;
     }
     const CGFloat width = flowWidth(row, columns);
-    const ControlFlow flow(row.controls, width);
-    flow.place(NSMakePoint(columns.controlX + columns.controlWidth - width, centred(flow.height())));
+    ControlFlow(row.controls, width)
+        .place(NSMakePoint(columns.controlX + columns.controlWidth - width, y + top));
 }
 
 } // namespace qbsp::appkit

@@ -1,16 +1,10 @@
 #import "appkit/view/QBSPNameFormatter.h"
 
+#include "appkit/view/ShortenedText.h"
+
 namespace {
 
 const NSUInteger maximumLength = 200;
-
-NSString* shortened(NSString* name) {
-    if ([name length] <= maximumLength)
-        return name;
-    // Never cuts a composed character in two.
-    const NSUInteger end = [name rangeOfComposedCharacterSequenceAtIndex:maximumLength].location;
-    return [[name substringToIndex:end] stringByAppendingString:@"\u2026"];
-}
 
 NSString* onOneLine(NSString* name) {
     NSMutableCharacterSet* breaks = [[[NSCharacterSet controlCharacterSet] mutableCopy] autorelease];
@@ -24,7 +18,8 @@ NSString* onOneLine(NSString* name) {
 @implementation QBSPNameFormatter
 
 - (NSString*)stringForObjectValue:(id)name {
-    return [name isKindOfClass:[NSString class]] ? onOneLine(shortened(name)) : nil;
+    return [name isKindOfClass:[NSString class]] ? onOneLine(qbsp::appkit::withoutMiddle(name, maximumLength))
+                                                 : nil;
 }
 
 @end

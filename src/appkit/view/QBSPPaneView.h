@@ -7,13 +7,18 @@
 
 #include <memory>
 
+@class QBSPFormView;
+@class QBSPReasonField;
+
 /// The pane's main view: a form with all of the pane's controls. It owns the controls; others set their
-/// texts.
+/// texts. The form scrolls where the host has no room for it.
 @interface QBSPPaneView : NSView {
     qbsp::appkit::ViewControls controls;
-    NSTextField* reasonField;
-    NSButton* addButton;
+    QBSPReasonField* reasonField;
+    QBSPButton* addButton;
     NSScrollView* hideAppsScrollView;
+    QBSPFormView* formView;
+    NSScrollView* formScrollView;
     std::unique_ptr<qbsp::appkit::FormLayout> form;
 }
 
@@ -21,7 +26,7 @@
 - (const qbsp::appkit::ViewControls&)controls;
 
 /// The view's own button, which is not one of the pane's controls. The plug-in sets its title and action.
-- (NSButton*)addButton;
+- (QBSPButton*)addButton;
 
 /// The names of the pane's controls, in the order of its fields.
 - (NSArray*)controlNames;
@@ -31,11 +36,18 @@
 - (NSView*)controlNamed:(NSString*)name;
 
 /// Must be called after texts were set or controls hidden. Lays out the form again, and gives each control
-/// without a title its label's text as accessibility label.
+/// its label's text as accessibility label.
 - (void)contentsDidChange;
+
+/// Lays out the form again.
+- (void)layOutForm;
 
 /// The first visible control and the last control, in tab order.
 - (NSView*)firstControl;
 - (NSView*)lastControl;
+
+/// Gives the first control the focus if no control of the pane has it, and closes the tab order where the
+/// host has not connected its ends: through the host's own controls, if it has any.
+- (void)takeFocus;
 
 @end

@@ -1,8 +1,12 @@
 #import "appkit/view/QBSPPaneView.h"
 
 #include "appkit/bridge/Strings.h"
+#include "appkit/drawing/Fonts.h"
 #import "appkit/view/ControlMaking.h"
-#import "appkit/view/TextMeasuring.h"
+#import "appkit/view/KeyViews.h"
+#import "appkit/view/QBSPFormView.h"
+#import "appkit/view/QBSPReasonField.h"
+#import "appkit/view/ViewTexts.h"
 
 #include <vector>
 
@@ -12,15 +16,11 @@ using qbsp::appkit::Stretch;
 using qbsp::appkit::ViewControls;
 
 static const NSSize initialSize = {580, 560};
-static const NSSize recorderSize = {220, 26};
-static const CGFloat minimumFlagColumnWidth = 70;
-static const CGFloat headerPadding = 16;
+static const CGFloat recorderWidthInLines = 15;
+static const CGFloat recorderHeightPadding = 12;
+static const CGFloat minimumListHeightInRows = 4;
 static const CGFloat gap = 10;
 static const CGFloat groupGap = 18;
-
-static bool hasTitle(NSView* control) {
-    return [control isKindOfClass:[NSButton class]] && [[static_cast<NSButton*>(control) title] length] > 0;
-}
 
 static NSString* const addButtonName = @"addButton";
 
@@ -34,16 +34,17 @@ static void make(NSTextField*& label) {
     label = qbsp::appkit::makeLabel(NSRightTextAlignment);
 }
 
-static void make(NSButton*& button) {
+static void make(QBSPButton*& button) {
     button = qbsp::appkit::makePushButton();
 }
 
-static void make(NSTableView*& table) {
+static void make(QBSPHideTable*& table) {
     table = qbsp::appkit::makeHideTable();
 }
 
 static void make(QBSPRecorderView*& recorder) {
-    const NSRect frame = NSMakeRect(0, 0, recorderSize.width, recorderSize.height);
+    const CGFloat line = qbsp::appkit::lineHeight(qbsp::appkit::controlFont());
+    const NSRect frame = NSMakeRect(0, 0, recorderWidthInLines * line, line + recorderHeightPadding);
     recorder = [[[QBSPRecorderView alloc] initWithFrame:frame] autorelease];
 }
 
@@ -52,8 +53,8 @@ static void make(QBSPRecorderView*& recorder) {
 - (void)makeForm;
 - (void)addControls;
 - (void)chainControls;
-- (void)layOutForm;
-- (void)fitColumns;
+- (void)setToolTips;
+- (CGFloat)minimumListHeight;
 - (std::vector<NSView*>)controlsInTabOrder;
 @end
 
@@ -66,8 +67,15 @@ static void make(QBSPRecorderView*& recorder) {
         [self makeForm];
         [self addControls];
         [self chainControls];
+        [self setToolTips];
     }
     return self;
+}
+
+- (void)dealloc {
+    // A recorder that is deallocated clears the reason that it showed.
+    [reasonField setPaneView:nil];
+    [super dealloc];
 }
 
 #pragma mark - Making the controls
@@ -75,10 +83,13 @@ static void make(QBSPRecorderView*& recorder) {
 - (void)makeControls {
     qbsp::forEachControl([](const char*, auto& control) { make(control); }, controls);
     controls.descriptionLabel = qbsp::appkit::makeLabel(NSLeftTextAlignment);
-    controls.attentionLabel = qbsp::appkit::makeRemark();
+    controls.attentionLabel = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
+    qbsp::appkit::makeRemark(controls.attentionLabel);
     controls.showAtLoginCheckbox = qbsp::appkit::makeCheckBox();
     controls.visibilityButton = qbsp::appkit::makeCheckBox();
-    reasonField = qbsp::appkit::makeRemark();
+    reasonField = [[[QBSPReasonField alloc] initWithFrame:NSZeroRect] autorelease];
+    qbsp::appkit::makeRemark(reasonField);
+    [reasonField setPaneView:self];
     [controls.noteHotKeyRecorder setReasonField:reasonField];
     [controls.clipHotKeyRecorder setReasonField:reasonField];
     hideAppsScrollView = qbsp::appkit::makeScrollView(controls.hideAppsTable);
@@ -94,26 +105,49 @@ static void make(QBSPRecorderView*& recorder) {
     form->addRow({c.visibilityLabel, {c.visibilityButton}, groupGap});
     form->addRow({c.takeNoteLabel, {c.noteHotKeyRecorder}, groupGap});
     form->addRow({c.copySelectionLabel, {c.clipHotKeyRecorder}, gap});
-    // Reserves room for the longest reason, so that nothing moves when one appears or disappears.
-    form->addRow({nil, {reasonField}, 4, Stretch::width, qbsp::appkit::heightOfLines(reasonField, 2)});
-    form->addRow({c.hideAppLabel, {hideAppsScrollView}, 4, Stretch::widthAndHeight});
+    form->addRow({nil, {reasonField}, 4, Stretch::width});
+    form->addRow(
+        {c.hideAppLabel, {hideAppsScrollView}, groupGap, Stretch::widthAndHeight, [self minimumListHeight]});
     form->addRow({nil, {addButton, c.resetFullscreenSettingsButton}, gap});
 }
 
-- (void)addControls {
-    [self addSubview:controls.descriptionLabel];
-    for (const FormRow& row : form->rows()) {
-        if (row.label != nil)
-            [self addSubview:row.label];
-        for (NSView* control : row.controls)
-            [self addSubview:control];
-    }
+- (CGFloat)minimumListHeight {
+    return NSHeight([[controls.hideAppsTable headerView] frame]) +
+           minimumListHeightInRows * [controls.hideAppsTable rowHeight];
 }
 
+- (void)addControls {
+    formView = [[[QBSPFormView alloc] initWithFrame:[self bounds]] autorelease];
+    [formView addSubview:controls.descriptionLabel];
+    for (const FormRow& row : form->rows()) {
+        if (row.label != nil)
+            [formView addSubview:row.label];
+        for (NSView* control : row.controls)
+            [formView addSubview:control];
+    }
+    formScrollView = [[[NSScrollView alloc] initWithFrame:[self bounds]] autorelease];
+    [formScrollView setDrawsBackground:NO];
+    [formScrollView setDocumentView:formView];
+    [self addSubview:formScrollView];
+}
+
+// The ends are the host's to connect.
 - (void)chainControls {
     const std::vector<NSView*> order = [self controlsInTabOrder];
-    for (std::size_t index = 0; index < order.size(); ++index)
-        [order[index] setNextKeyView:order[(index + 1) % order.size()]];
+    for (std::size_t index = 1; index < order.size(); ++index)
+        [order[index - 1] setNextKeyView:order[index]];
+}
+
+- (void)setToolTips {
+    [controls.showAtLoginCheckbox setToolTip:qbsp::appkit::loginTip()];
+    [controls.toggleLaunchButton setToolTip:qbsp::appkit::launchTip()];
+    [controls.visibilityButton setToolTip:qbsp::appkit::visibilityTip()];
+    [controls.noteHotKeyRecorder setToolTip:qbsp::appkit::recorderTip()];
+    [controls.clipHotKeyRecorder setToolTip:qbsp::appkit::recorderTip()];
+    [controls.hideAppsTable setAccessibilityHelp:qbsp::appkit::listTip()];
+    [controls.hideAppLabel setToolTip:qbsp::appkit::listTip()];
+    [addButton setToolTip:qbsp::appkit::addTip()];
+    [controls.resetFullscreenSettingsButton setToolTip:qbsp::appkit::resetTip()];
 }
 
 // From top to bottom, as they are laid out. A text field takes no keys, and in the list the table does.
@@ -140,32 +174,31 @@ static void make(QBSPRecorderView*& recorder) {
 
 - (void)contentsDidChange {
     for (const FormRow& row : form->rows())
-        if (row.label != nil && !hasTitle(row.controls.front()))
-            qbsp::appkit::setAccessibilityLabel(row.controls.front(), [row.label stringValue]);
-    qbsp::appkit::setAccessibilityLabel(controls.hideAppsTable, [controls.hideAppLabel stringValue]);
+        if (row.label != nil && row.stretch == Stretch::none)
+            [static_cast<id>(row.controls.front()) setAccessibilityLabel:[row.label stringValue]];
+    [controls.hideAppsTable setAccessibilityLabel:[controls.hideAppLabel stringValue]];
     [self layOutForm];
 }
 
 - (void)layOutForm {
-    form->layOut([self bounds].size);
-    [self fitColumns];
+    const NSSize room = [self bounds].size;
+    const NSSize beside = [NSScrollView contentSizeForFrameSize:room
+                                          hasHorizontalScroller:NO
+                                            hasVerticalScroller:YES
+                                                     borderType:NSNoBorder];
+    NSSize size = form->minimumSize(room.width);
+    const BOOL isTooHigh = size.height > room.height;
+    if (isTooHigh)
+        size = form->minimumSize(beside.width);
+    size.height = MAX(size.height, room.height);
+    // Scrollers that hide themselves can show and hide each other for ever.
+    [formScrollView setHasVerticalScroller:isTooHigh];
+    [formScrollView setHasHorizontalScroller:size.width > room.width];
+    [formScrollView setFrame:[self bounds]];
+    [formView setFrameSize:size];
+    form->layOut(size);
+    [controls.hideAppsTable fitColumns];
     [self setNeedsDisplay:YES];
-}
-
-// The column of flags is as wide as its title, and the column of names gets the rest. A column may take up
-// more space than its width.
-- (void)fitColumns {
-    NSTableColumn* names =
-        [controls.hideAppsTable tableColumnWithIdentifier:qbsp::appkit::nsString(qbsp::nameColumn.text)];
-    NSTableColumn* flags =
-        [controls.hideAppsTable tableColumnWithIdentifier:qbsp::appkit::nsString(qbsp::flagColumn.text)];
-    const CGFloat title = [[flags headerCell] cellSize].width + headerPadding;
-    [flags setMaxWidth:MAX(minimumFlagColumnWidth, title)];
-    [flags setMinWidth:[flags maxWidth]];
-    [flags setWidth:[flags maxWidth]];
-    const CGFloat spacing = NSMaxX([controls.hideAppsTable rectOfColumn:1]) - [names width] - [flags width];
-    const CGFloat room = [hideAppsScrollView contentSize].width - spacing - [flags width];
-    [names setWidth:MAX([flags width], room)];
 }
 
 #pragma mark - The controls
@@ -174,7 +207,7 @@ static void make(QBSPRecorderView*& recorder) {
     return controls;
 }
 
-- (NSButton*)addButton {
+- (QBSPButton*)addButton {
     return addButton;
 }
 
@@ -207,6 +240,16 @@ static void make(QBSPRecorderView*& recorder) {
 
 - (NSView*)lastControl {
     return controls.resetFullscreenSettingsButton;
+}
+
+#pragma mark - In the host
+
+- (void)takeFocus {
+    if ([[self lastControl] nextKeyView] == nil)
+        qbsp::appkit::connectKeyViews(self, [self firstControl], [self lastControl]);
+    id responder = [[self window] firstResponder];
+    if (![responder isKindOfClass:[NSView class]] || ![responder isDescendantOf:self])
+        [[self window] makeFirstResponder:[self firstControl]];
 }
 
 @end

@@ -2,6 +2,7 @@
 
 #include "appkit/bridge/Retained.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace qbsp::appkit {
@@ -38,9 +39,12 @@ NSSize sizeOfWrappedText(NSTextField* field, CGFloat width) {
     return padded(measure(text, [field font], width - cellPadding));
 }
 
-CGFloat heightOfLines(NSTextField* field, NSUInteger count) {
-    NSString* lines = [@" " stringByPaddingToLength:2 * count - 1 withString:@"\n " startingAtIndex:0];
-    return padded(measure(lines, [field font], unlimited)).height;
+CGFloat widthOfWidestWord(NSTextField* field) {
+    NSArray* words = [[field stringValue] componentsSeparatedByString:@" "];
+    CGFloat widest = 0;
+    for (NSUInteger index = 0; index < [words count]; ++index)
+        widest = std::max(widest, measure([words objectAtIndex:index], [field font], unlimited).width);
+    return std::ceil(widest) + cellPadding;
 }
 
 } // namespace qbsp::appkit

@@ -1,6 +1,8 @@
 #pragma once
 
 #import "appkit/recorder/QBSPRecorderView.h"
+#import "appkit/view/QBSPButton.h"
+#import "appkit/view/QBSPHideTable.h"
 #include "pane/PaneControls.h"
 
 #import <AppKit/AppKit.h>
@@ -19,7 +21,7 @@ struct ViewOf<platform::RecorderControl> {
 
 template <>
 struct ViewOf<platform::Button> {
-    using type = NSButton*;
+    using type = QBSPButton*;
 };
 
 template <>
@@ -29,7 +31,7 @@ struct ViewOf<platform::TextField> {
 
 template <>
 struct ViewOf<platform::TableView> {
-    using type = NSTableView*;
+    using type = QBSPHideTable*;
 };
 
 template <class Control>

@@ -23,4 +23,9 @@
                                           error:(NSError**)error;
 @end
 
+@interface NSView (CocoaOnly)
+- (NSRect)alignmentRectForFrame:(NSRect)frame;
+- (NSRect)frameForAlignmentRect:(NSRect)rect;
+@end
+
 extern NSString* const NSWorkspaceApplicationKey;

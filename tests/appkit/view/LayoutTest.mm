@@ -1,33 +1,191 @@
-#include <gtest/gtest.h>
+#include "PaneWindow.h"
 
-#import "appkit/view/QBSPPaneView.h"
+#include "appkit/drawing/Fonts.h"
+#import "appkit/view/Alignment.h"
+#include "appkit/view/ControlFlow.h"
 #import "appkit/view/TextMeasuring.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
 
 namespace qbsp::appkit {
 
 namespace {
 
-constexpr CGFloat narrowest = 520;
+NSString* const longestReason =
+    @"Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well.";
 
-QBSPPaneView* narrowView() {
-    QBSPPaneView* view = [[[QBSPPaneView alloc] initWithFrame:NSZeroRect] autorelease];
-    [[view controls].takeNoteLabel setStringValue:@"Take Note Hotkey:"];
-    [[view controls].copySelectionLabel setStringValue:@"Copy Selection Hotkey:"];
-    [view setFrameSize:NSMakeSize(narrowest, 560)];
-    [view contentsDidChange];
-    return view;
-}
+constexpr CGFloat fontSizes[] = {9, 12, 15, 18, 21, 24};
+
+class Layout : public PaneWindow {
+protected:
+    [[nodiscard]] NSView* form() const { return [controls().visibilityButton superview]; }
+
+    [[nodiscard]] NSScrollView* list() const { return [controls().hideAppsTable enclosingScrollView]; }
+
+    [[nodiscard]] std::vector<NSView*> shownParts() const {
+        std::vector<NSView*> shown;
+        NSArray* const parts = [form() subviews];
+        for (NSUInteger index = 0; index < [parts count]; ++index)
+            if (takesSpace([parts objectAtIndex:index]))
+                shown.push_back([parts objectAtIndex:index]);
+        return shown;
+    }
+
+    void expectWhole(NSView* part) const {
+        const NSRect rect = visiblePart(part);
+        EXPECT_TRUE(NSContainsRect([form() bounds], rect)) << [[part description] UTF8String];
+        if ([part isKindOfClass:[NSButton class]]) {
+            EXPECT_GE(NSWidth(rect), naturalWidth(part)) << [[part description] UTF8String];
+        }
+        if ([part isKindOfClass:[NSTextField class]]) {
+            const NSSize needed = sizeOfWrappedText(static_cast<NSTextField*>(part), NSWidth(rect));
+            EXPECT_GE(NSHeight(rect), needed.height) << [[part description] UTF8String];
+        }
+    }
+
+    /// The lowest row of the view's pixels, from its top, that has the text's colour in the columns from that
+    /// one on.
+    [[nodiscard]] NSInteger lowestInk(NSView* inkedView, NSInteger firstColumn) {
+        NSBitmapImageRep* const bitmap = [NSBitmapImageRep imageRepWithData:drawnAnew(inkedView)];
+        for (NSInteger row = [bitmap pixelsHigh] - 1; row >= 0; --row)
+            for (NSInteger column = firstColumn; column < [bitmap pixelsWide]; ++column)
+                if ([[[bitmap colorAtX:column y:row] colorUsingColorSpaceName:NSCalibratedRGBColorSpace]
+                        redComponent] < 0.2)
+                    return row;
+        return -1;
+    }
+
+    /// Where its text's baseline lies in the form.
+    [[nodiscard]] CGFloat baseline(NSView* control, NSInteger firstColumn = 0) {
+        return NSMinY([control frame]) + static_cast<CGFloat>(lowestInk(control, firstColumn));
+    }
+};
 
 } // namespace
 
-TEST(PaneView, HasRoomForTheLongestReasonBeforeItIsShown) {
-    NSTextField* field = [[narrowView() controls].noteHotKeyRecorder reasonField];
+TEST_F(Layout, HasRoomForTheWholeReasonWhileThereIsOne) {
+    NSTextField* const field = [controls().noteHotKeyRecorder reasonField];
+    const NSRect before = visiblePart(list());
+    const NSRect recorder = visiblePart(controls().clipHotKeyRecorder);
 
-    [field
-        setStringValue:@"Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well."];
+    [field setStringValue:longestReason];
 
-    const NSRect frame = [field frame];
-    EXPECT_GE(NSHeight(frame), sizeOfWrappedText(field, NSWidth(frame)).height);
+    const NSRect shorter = visiblePart(list());
+    EXPECT_GE(NSHeight([field frame]), sizeOfWrappedText(field, NSWidth([field frame])).height);
+    EXPECT_TRUE(NSEqualRects(recorder, visiblePart(controls().clipHotKeyRecorder)));
+    EXPECT_EQ(NSMaxY(shorter), NSMaxY(before));
+    EXPECT_LT(NSHeight(shorter), NSHeight(before));
+
+    [field setStringValue:@""];
+
+    EXPECT_TRUE(NSEqualRects(before, visiblePart(list())));
+}
+
+TEST_F(Layout, HasOneLeftEdgeAndMarginsOfTwentyPoints) {
+    for (const CGFloat size : fontSizes) {
+        setFontSize(size);
+        const CGFloat left = NSMinX(visiblePart(controls().showAtLoginCheckbox));
+        const NSView* const all[] = {controls().toggleLaunchButton,
+                                     controls().visibilityButton,
+                                     controls().noteHotKeyRecorder,
+                                     controls().clipHotKeyRecorder,
+                                     list(),
+                                     [view addButton]};
+
+        for (const NSView* const control : all)
+            EXPECT_EQ(NSMinX(visiblePart(const_cast<NSView*>(control))), left) << size;
+        EXPECT_EQ(NSMinX([controls().descriptionLabel frame]), 20) << size;
+        EXPECT_EQ(NSMinY([controls().descriptionLabel frame]), 20) << size;
+        EXPECT_EQ(NSMaxX(visiblePart(list())), NSWidth([form() bounds]) - 20) << size;
+        EXPECT_EQ(NSMaxY(visiblePart([view lastControl])), NSHeight([form() bounds]) - 20) << size;
+    }
+}
+
+TEST_F(Layout, GivesLabelsAndTheirControlsOneBaseline) {
+    for (const CGFloat size : {9.0, 12.0, 15.0, 18.0}) {
+        setFontSize(size);
+        for (NSTextField* const label : {controls().visibilityLabel, controls().availabilityLabel})
+            [label setStringValue:@"HHHHHHHH"];
+        for (NSButton* const button : {controls().visibilityButton, controls().showAtLoginCheckbox})
+            [button setTitle:@"HHHH"];
+        [view contentsDidChange];
+        const auto behindTheBox = static_cast<NSInteger>(size * 1.6) + 4;
+
+        EXPECT_EQ(baseline(controls().visibilityLabel), baseline(controls().visibilityButton, behindTheBox))
+            << size;
+        EXPECT_EQ(baseline(controls().availabilityLabel),
+                  baseline(controls().showAtLoginCheckbox, behindTheBox))
+            << size;
+    }
+}
+
+TEST_F(Layout, FollowsTheSizeOfType) {
+    CGFloat lastRow = 0;
+    CGFloat lastRecorder = 0;
+    for (const CGFloat size : fontSizes) {
+        setFontSize(size);
+
+        const CGFloat line = lineHeight([controls().visibilityLabel font]);
+        EXPECT_GT([controls().hideAppsTable rowHeight], std::max(line, lastRow));
+        EXPECT_GT(NSHeight([controls().noteHotKeyRecorder frame]), std::max(line, lastRecorder));
+        EXPECT_GE(NSHeight([[controls().hideAppsTable headerView] frame]), line);
+        lastRow = [controls().hideAppsTable rowHeight];
+        lastRecorder = NSHeight([controls().noteHotKeyRecorder frame]);
+    }
+}
+
+TEST_F(Layout, CutsNothingAndCoversNothingAtAnySizeOfTypeAndWindow) {
+    for (const CGFloat size : fontSizes)
+        for (const NSSize room : {NSMakeSize(480, 356), NSMakeSize(595, 480), NSMakeSize(900, 800)}) {
+            SCOPED_TRACE(std::to_string(size) + " points in " + std::to_string(room.width));
+            setFontSize(size);
+            [view setFrameSize:room];
+
+            const std::vector<NSView*> parts = shownParts();
+            for (std::size_t index = 0; index < parts.size(); ++index) {
+                expectWhole(parts[index]);
+                for (std::size_t other = 0; other < index; ++other)
+                    EXPECT_FALSE(NSIntersectsRect(visiblePart(parts[index]), visiblePart(parts[other])))
+                        << [[parts[index] description] UTF8String];
+            }
+        }
+}
+
+TEST_F(Layout, ScrollsWhereTheHostIsTooSmallAndOnlyThere) {
+    NSScrollView* const scrollView = [form() enclosingScrollView];
+    EXPECT_TRUE(NSEqualSizes([form() frame].size, [view bounds].size));
+    EXPECT_TRUE(NSEqualSizes([scrollView documentVisibleRect].size, [view bounds].size));
+
+    [view setFrameSize:NSMakeSize(480, 356)];
+
+    EXPECT_GT(NSHeight([form() frame]), NSHeight([scrollView documentVisibleRect]));
+    EXPECT_EQ(NSWidth([form() frame]), NSWidth([scrollView documentVisibleRect]));
+}
+
+TEST_F(Layout, ScrollsToTheControlThatGetsTheFocus) {
+    [view setFrameSize:NSMakeSize(480, 356)];
+    focus([view firstControl]);
+
+    focus([view lastControl]);
+
+    EXPECT_TRUE(
+        NSContainsRect([[form() enclosingScrollView] documentVisibleRect], visiblePart([view lastControl])));
+}
+
+TEST_F(Layout, TogglesAFlagByAClickOnItsBoxOnly) {
+    QBSPHideTable* const table = controls().hideAppsTable;
+    const NSRect cell = [table frameOfCellAtColumn:1 row:2];
+
+    clickAt(table, NSMakePoint(NSMinX(cell) + 3, NSMidY(cell)), [&] { return [table selectedRow] == 2; });
+    EXPECT_EQ([table selectedRow], 2);
+    EXPECT_FALSE(flag(2));
+
+    clickAt(table, NSMakePoint(NSMidX(cell), NSMidY(cell)), [&] { return flag(2); });
+    EXPECT_TRUE(flag(2));
+    NSData* const pixels = shown(view);
+    EXPECT_TRUE([pixels isEqual:drawnAnew(view)]);
 }
 
 } // namespace qbsp::appkit

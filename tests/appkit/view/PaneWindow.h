@@ -15,6 +15,9 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
+    /// The view made anew, as it is when the user's system font has that size.
+    void setFontSize(CGFloat size);
+
     void setNames(const std::vector<std::string>& names);
 
     [[nodiscard]] bool flag(std::size_t row) const { return listing_.get()->flags.at(row); }
@@ -43,6 +46,8 @@ protected:
     QBSPPaneView* view = nil;
 
 private:
+    void makeView();
+
     Retained<QBSPPaneView*> view_;
     Retained<PaneListing*> listing_;
 };

@@ -9,6 +9,7 @@ namespace qbsp::appkit {
 
 namespace {
 
+NSString* const fontSizeKey = @"NSFontSize";
 constexpr NSRect firstFrame = {{200, 200}, {580, 560}};
 
 NSEvent* mouseEvent(NSEventType type, NSView* view, NSPoint point) {
@@ -92,15 +93,8 @@ NSData* pixels(NSView* view) {
 
 void PaneWindow::SetUp() {
     window = sharedWindow();
-    view_ = Retained<QBSPPaneView*>::adopt([[QBSPPaneView alloc] initWithFrame:NSZeroRect]);
     listing_ = Retained<PaneListing*>::adopt([[PaneListing alloc] init]);
-    view = view_.get();
-    setTexts(view);
-    [controls().hideAppsTable setDataSource:static_cast<id>(listing_.get())];
-    setNames({"Atlas", "Books", "Calendar", "Mail", "Maps"});
-    [view setFrame:[[window contentView] bounds]];
-    [[window contentView] addSubview:view];
-    [view contentsDidChange];
+    makeView();
     [window makeKeyAndOrderFront:nil];
     // AppKit calls a window key before the window manager has agreed.
     ASSERT_TRUE(
@@ -109,9 +103,30 @@ void PaneWindow::SetUp() {
 }
 
 void PaneWindow::TearDown() {
+    [[NSUserDefaults standardUserDefaults] removeObjectForKey:fontSizeKey];
     [controls().hideAppsTable setDataSource:nil];
     [window makeFirstResponder:nil];
     [view removeFromSuperview];
+}
+
+void PaneWindow::makeView() {
+    [view removeFromSuperview];
+    if (view != nil)
+        [controls().hideAppsTable setDataSource:nil];
+    view_ = Retained<QBSPPaneView*>::adopt([[QBSPPaneView alloc] initWithFrame:NSZeroRect]);
+    view = view_.get();
+    setTexts(view);
+    [controls().hideAppsTable setDataSource:static_cast<id>(listing_.get())];
+    setNames({"Atlas", "Books", "Calendar", "Mail", "Maps"});
+    [view setFrame:[[window contentView] bounds]];
+    [[window contentView] addSubview:view];
+    [view contentsDidChange];
+    settle();
+}
+
+void PaneWindow::setFontSize(CGFloat size) {
+    [[NSUserDefaults standardUserDefaults] setDouble:size forKey:fontSizeKey];
+    makeView();
 }
 
 void PaneWindow::setNames(const std::vector<std::string>& names) {

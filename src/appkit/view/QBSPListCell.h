@@ -1,0 +1,30 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+@class QBSPHideTable;
+
+/// A cell of the hide list as a screen reader knows it. The methods have the names of the system's
+/// accessibility protocol.
+@interface QBSPListCell : NSObject {
+    QBSPHideTable* table;
+    NSInteger column;
+    NSInteger row;
+}
+
+/// The table is not retained.
+- (id)initWithTable:(QBSPHideTable*)aTable column:(NSInteger)aColumn row:(NSInteger)aRow;
+
+/// A check box's label is its row's name and its column's title; it has the value 0 or 1. A name's value is
+/// the name.
+- (NSString*)accessibilityRole;
+- (NSString*)accessibilityLabel;
+- (id)accessibilityValue;
+- (NSString*)accessibilityHelp;
+- (id)accessibilityParent;
+- (NSRect)accessibilityFrame;
+
+/// Toggles a check box. Returns NO for a name.
+- (BOOL)accessibilityPerformPress;
+
+@end
