@@ -4,7 +4,7 @@
 
 static const CGFloat barHeight = 84;
 static const NSSize firstSize = {620, 680};
-static const NSSize smallestSize = {540, 620};
+static const NSSize smallestSize = {480, 440};
 static const NSSize buttonSize = {84, 72};
 
 @interface QBSPPreferencesWindow ()
@@ -14,6 +14,7 @@ static const NSSize buttonSize = {84, 72};
 - (void)showPage:(NSView*)newPage;
 - (void)chooseGeneral:(id)sender;
 - (void)chooseSorter:(id)sender;
+- (void)chainKeyViews;
 - (void)mark:(NSButton*)chosen;
 @end
 
@@ -111,6 +112,7 @@ static const NSSize buttonSize = {84, 72};
     [runner willUnselect];
     [self showPage:general];
     [runner didUnselect];
+    [self chainKeyViews];
 }
 
 - (void)chooseSorter:(id)sender {
@@ -120,6 +122,7 @@ static const NSSize buttonSize = {84, 72};
         return;
     [runner willSelect];
     [self showPage:mainView];
+    [self chainKeyViews];
     [runner didSelect];
     [window makeFirstResponder:[[runner pane] initialKeyView]];
 }
@@ -137,6 +140,15 @@ static const NSSize buttonSize = {84, 72};
     [page setFrame:NSMakeRect(0, 0, size.width, size.height - barHeight)];
     [[window contentView] addSubview:page];
     [[window contentView] setNeedsDisplay:YES];
+}
+
+// Tab goes from the bar through the page and back.
+- (void)chainKeyViews {
+    NSPreferencePane* pane = [runner pane];
+    const BOOL showsPane = pane != nil && page == [pane mainView];
+    [generalButton setNextKeyView:sorterButton];
+    [sorterButton setNextKeyView:showsPane ? [pane firstKeyView] : generalButton];
+    [[pane lastKeyView] setNextKeyView:generalButton];
 }
 
 - (void)leavePane {

@@ -5,7 +5,7 @@ import unittest
 
 from controls import Controls
 from host import Host
-from session import HIDE_LIST, PANE, SOLO_SORTER, Session
+from session import HIDE_LIST, PANE, SOLO_SORTER, Session, wait_until
 
 # The plug-in of a sanitized build needs a library that this program was not built with.
 PROGRAM = ["env", "LD_PRELOAD=" + os.environ["FOREIGN_HOST_PRELOAD"],
@@ -45,7 +45,30 @@ class SystemPreferencesTest(unittest.TestCase):
         self.assertEqual(self.session.domain(SOLO_SORTER)[HIDE_LIST], {"Atlas": True, "Books": True})
         self.assertEqual(self.unexpected_lines(), [])
 
+    def test_lets_the_keyboard_alone_reach_every_control_again_and_again(self):
+        self.show_pane()
+
+        self.press("Tab", "Tab", "space")
+        wait_until(self.tab_is_invisible, "the box \"Full\" to be turned off", self.host.printed)
+
+        self.press("Tab", "Tab", "Tab", "space")
+        self.controls.wait_for(**FIRST_CHECK_BOX, value="1")
+
+        # This host has nothing that takes keys but the pane.
+        self.press("Tab", "Tab", "Tab", "space")
+        self.controls.wait_for(title="Start Sorter at login", value="1")
+
     # --- What the user does
+
+    def press(self, *keys):
+        self.host.wait_until_idle()
+        for key in keys:
+            self.session.run("xdotool", "key", key)
+            self.host.wait_until_idle()
+
+    def tab_is_invisible(self):
+        host = self.session.domain_file("SystemPreferences")
+        return host.exists() and self.session.domain("SystemPreferences").get("SorterTabIsInvisible")
 
     def show_pane(self):
         self.controls.click(lambda: self.controls.find(name="hideAppsTable"), "the pane", title="Sorter")
