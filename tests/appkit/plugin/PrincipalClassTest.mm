@@ -2,6 +2,7 @@
 #include "on_appkit/ContractUser.h"
 
 #include <algorithm>
+#include <set>
 
 namespace {
 
@@ -30,6 +31,20 @@ TEST_F(PrincipalClass, RespondsToEveryOperationOfThePane) {
         EXPECT_TRUE([pane respondsToSelector:NSSelectorFromString(operation)]) << [operation UTF8String];
     }
     EXPECT_TRUE([[pane class] respondsToSelector:@selector(initialize)]);
+}
+
+TEST_F(PrincipalClass, HasAnIconInSixteenTo512Pixels) {
+    NSBundle* bundle = [NSBundle bundleWithPath:bundlePath];
+    NSString* file = [bundle objectForInfoDictionaryKey:@"NSPrefPaneIconFile"];
+    NSImage* icon = [[[NSImage alloc] initWithContentsOfFile:[bundle pathForResource:file
+                                                                              ofType:nil]] autorelease];
+    std::set<NSInteger> sizes;
+    for (NSUInteger index = 0; index < [[icon representations] count]; ++index)
+        sizes.insert([[[icon representations] objectAtIndex:index] pixelsWide]);
+
+    EXPECT_EQ(sizes, (std::set<NSInteger>{16, 32, 48, 64, 128, 256, 512}));
+    // Hosts that do not scale it show it as large as any other icon.
+    EXPECT_EQ([icon size].width, 48);
 }
 
 TEST_F(PrincipalClass, HasTheRegistrarsProtocolKnownToTheRuntime) {
