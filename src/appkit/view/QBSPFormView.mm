@@ -5,6 +5,7 @@
 
 @interface QBSPFormView ()
 - (NSView*)focusedControl;
+- (NSRect)rectOfFocus;
 - (void)followFocus:(NSNotification*)notification;
 - (void)moveRingTo:(NSRect)rect;
 @end
@@ -43,9 +44,14 @@
     return [responder isKindOfClass:[NSTableView class]] ? [responder enclosingScrollView] : responder;
 }
 
-- (void)followFocus:(NSNotification*)notification {
+- (NSRect)rectOfFocus {
     NSView* control = [self focusedControl];
-    [self moveRingTo:control == nil ? NSZeroRect : qbsp::appkit::visiblePart(control)];
+    return control == nil ? NSZeroRect : qbsp::appkit::visiblePart(control);
+}
+
+- (void)followFocus:(NSNotification*)notification {
+    [self moveRingTo:[self rectOfFocus]];
+    NSView* control = [self focusedControl];
     if (control != followed && control != nil)
         [self scrollRectToVisible:qbsp::appkit::focusRingRect(focused)];
     followed = control;
@@ -64,8 +70,10 @@
 }
 
 - (void)drawRect:(NSRect)rect {
-    if (!NSIsEmptyRect(focused))
-        qbsp::appkit::drawFocusRing(focused);
+    // The focus may have moved since the last event.
+    const NSRect now = [self rectOfFocus];
+    if (!NSIsEmptyRect(now))
+        qbsp::appkit::drawFocusRing(now);
 }
 
 @end

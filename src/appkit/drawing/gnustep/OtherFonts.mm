@@ -3,6 +3,7 @@
 #include <fontconfig/fontconfig.h>
 
 #include <memory>
+#include <span>
 
 namespace qbsp::appkit {
 
@@ -22,9 +23,9 @@ using Pattern = std::unique_ptr<FcPattern, Destroy<FcPatternDestroy>>;
 CharSet charSetOf(NSString* characters) {
     CharSet set(FcCharSetCreate());
     NSData* data = [characters dataUsingEncoding:NSUTF32LittleEndianStringEncoding];
-    const auto* codes = static_cast<const FcChar32*>([data bytes]);
-    for (NSUInteger index = 0; index < [data length] / sizeof(FcChar32); ++index)
-        FcCharSetAddChar(set.get(), codes[index]);
+    const std::span codes(static_cast<const FcChar32*>([data bytes]), [data length] / sizeof(FcChar32));
+    for (const FcChar32 code : codes)
+        FcCharSetAddChar(set.get(), code);
     return set;
 }
 
@@ -54,7 +55,7 @@ NSFont* otherFontWithCharacters(NSString* characters, CGFloat size) {
     if (match == nullptr || !has(match.get(), wanted) ||
         FcPatternGetString(match.get(), FC_FAMILY, 0, &family) != FcResultMatch)
         return nil;
-    NSString* name = [NSString stringWithUTF8String:reinterpret_cast<const char*>(family)];
+    NSString* name = [NSString stringWithUTF8String:static_cast<const char*>(static_cast<void*>(family))];
     return [[NSFontManager sharedFontManager] fontWithFamily:name
                                                       traits:0
                                                       weight:regularWeight
