@@ -39,7 +39,6 @@ picture smallest-window 12 480 440
 for font in 9 12 15 18 21 24; do
     picture "type-$font" "$font" 620 680
 done
-picture keyboard-focus 12 620 680
 colors=("${dark[@]}")
 picture dark-colours 12 620 680 "edit 1 3 0"
 
