@@ -144,7 +144,7 @@ static void make(QBSPRecorderView*& recorder) {
     [controls.visibilityButton setToolTip:qbsp::appkit::visibilityTip()];
     [controls.noteHotKeyRecorder setToolTip:qbsp::appkit::recorderTip()];
     [controls.clipHotKeyRecorder setToolTip:qbsp::appkit::recorderTip()];
-    [controls.hideAppsTable setAccessibilityHelp:qbsp::appkit::listTip()];
+    [controls.hideAppsTable setHelp:qbsp::appkit::listTip()];
     [controls.hideAppLabel setToolTip:qbsp::appkit::listTip()];
     [addButton setToolTip:qbsp::appkit::addTip()];
     [controls.resetFullscreenSettingsButton setToolTip:qbsp::appkit::resetTip()];

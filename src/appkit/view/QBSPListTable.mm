@@ -1,0 +1,215 @@
+#import "appkit/view/QBSPListTable.h"
+
+#include "appkit/bridge/Strings.h"
+#import "appkit/drawing/CheckBoxImages.h"
+#import "appkit/view/QBSPFlagCell.h"
+#import "appkit/view/QBSPNameCell.h"
+#import "appkit/view/QBSPNameFormatter.h"
+#include "pane/PaneControls.h"
+
+using qbsp::appkit::nsString;
+using qbsp::appkit::Retained;
+
+static const CGFloat rowPadding = 6;
+static const CGFloat headerPadding = 8;
+static const CGFloat minimumFlagColumnWidth = 70;
+static const CGFloat flagColumnPadding = 16;
+static const CGFloat stripeStrength = 0.06;
+
+@interface QBSPListTable ()
+- (NSTableColumn*)addColumn:(NSString*)identifier cell:(NSCell*)cell;
+- (void)addNameColumn;
+- (void)addFlagColumn;
+- (void)sizeHeader;
+- (BOOL)showsFocus;
+@end
+
+@implementation QBSPListTable
+
+- (id)initWithFrame:(NSRect)frame {
+    if ((self = [super initWithFrame:frame]) != nil) {
+        [self addNameColumn];
+        [self addFlagColumn];
+        [self setAllowsColumnReordering:NO];
+        [self setAllowsMultipleSelection:NO];
+        [self setDrawsGrid:NO];
+        [self setRowHeight:qbsp::appkit::lineHeight(qbsp::appkit::controlFont()) + rowPadding];
+        [self sizeHeader];
+    }
+    return self;
+}
+
+- (void)dealloc {
+    [[NSNotificationCenter defaultCenter] removeObserver:self];
+    [super dealloc];
+}
+
+#pragma mark - Making the columns
+
+- (NSTableColumn*)addColumn:(NSString*)identifier cell:(NSCell*)cell {
+    NSTableColumn* column = [[[NSTableColumn alloc] initWithIdentifier:identifier] autorelease];
+    [cell setFont:qbsp::appkit::controlFont()];
+    [column setDataCell:cell];
+    [[column headerCell] setStringValue:@""];
+    [[column headerCell] setFont:[NSFont boldSystemFontOfSize:[NSFont systemFontSize]]];
+    [self addTableColumn:column];
+    return column;
+}
+
+- (void)addNameColumn {
+    QBSPNameCell* cell = [[[QBSPNameCell alloc] initTextCell:@""] autorelease];
+    [cell setFonts:&fonts];
+    [cell setFormatter:[[[QBSPNameFormatter alloc] init] autorelease]];
+    NSTableColumn* column = [self addColumn:nsString(qbsp::nameColumn.text) cell:cell];
+    [column setEditable:NO];
+    [column setResizingMask:NSTableColumnAutoresizingMask];
+    [[column headerCell] setAlignment:NSLeftTextAlignment];
+}
+
+- (void)addFlagColumn {
+    QBSPFlagCell* cell = [[[QBSPFlagCell alloc] initTextCell:@""] autorelease];
+    [cell setButtonType:NSSwitchButton];
+    [cell setImagePosition:NSImageOnly];
+    qbsp::appkit::setCheckBoxImages(cell, qbsp::appkit::controlFont());
+    NSTableColumn* column = [self addColumn:nsString(qbsp::flagColumn.text) cell:cell];
+    [column setResizingMask:NSTableColumnNoResizing];
+    [[column headerCell] setAlignment:NSCenterTextAlignment];
+}
+
+- (void)sizeHeader {
+    NSRect frame = [[self headerView] frame];
+    frame.size.height = qbsp::appkit::lineHeight(qbsp::appkit::controlFont()) + headerPadding;
+    [[self headerView] setFrame:frame];
+    [[self cornerView] setFrameSize:NSMakeSize(NSWidth([[self cornerView] frame]), NSHeight(frame))];
+}
+
+#pragma mark - Layout
+
+// A column may take up more space than its width.
+- (void)fitColumns {
+    NSTableColumn* names = [self tableColumnWithIdentifier:nsString(qbsp::nameColumn.text)];
+    NSTableColumn* flags = [self tableColumnWithIdentifier:nsString(qbsp::flagColumn.text)];
+    const CGFloat title = [[flags headerCell] cellSize].width + flagColumnPadding;
+    [flags setMaxWidth:MAX(minimumFlagColumnWidth, title)];
+    [flags setMinWidth:[flags maxWidth]];
+    [flags setWidth:[flags maxWidth]];
+    const CGFloat spacing = NSMaxX([self rectOfColumn:1]) - [names width] - [flags width];
+    const CGFloat room = [[self enclosingScrollView] contentSize].width - spacing - [flags width];
+    [names setWidth:MAX([flags width], room)];
+}
+
+// The scroller has come or gone.
+- (void)viewDidMoveToSuperview {
+    [super viewDidMoveToSuperview];
+    NSNotificationCenter* center = [NSNotificationCenter defaultCenter];
+    [center removeObserver:self name:NSViewFrameDidChangeNotification object:nil];
+    if ([self superview] == nil)
+        return;
+    [[self superview] setPostsFrameChangedNotifications:YES];
+    [center addObserver:self
+               selector:@selector(clipViewFrameDidChange:)
+                   name:NSViewFrameDidChangeNotification
+                 object:[self superview]];
+}
+
+- (void)clipViewFrameDidChange:(NSNotification*)notification {
+    [self fitColumns];
+}
+
+#pragma mark - The rows
+
+- (id)valueInColumn:(NSInteger)column row:(NSInteger)row {
+    NSTableColumn* wanted = [[self tableColumns] objectAtIndex:static_cast<NSUInteger>(column)];
+    return [[self dataSource] tableView:self objectValueForTableColumn:wanted row:row];
+}
+
+- (NSString*)nameOfRow:(NSInteger)row {
+    return [self valueInColumn:[self columnWithIdentifier:nsString(qbsp::nameColumn.text)] row:row];
+}
+
+#pragma mark - Drawing
+
+- (BOOL)showsFocus {
+    return [[self window] firstResponder] == self && [[self window] isKeyWindow];
+}
+
+- (void)drawBackgroundInClipRect:(NSRect)clip {
+    [[NSColor textBackgroundColor] set];
+    NSRectFill(clip);
+    NSColor* ground = [[NSColor textBackgroundColor] colorUsingColorSpaceName:NSCalibratedRGBColorSpace];
+    [[ground blendedColorWithFraction:stripeStrength ofColor:[NSColor textColor]] set];
+    const NSRange rows = [self rowsInRect:clip];
+    for (NSUInteger row = rows.location | 1; row < NSMaxRange(rows); row += 2)
+        NSRectFill([self rectOfRow:static_cast<NSInteger>(row)]);
+}
+
+- (void)highlightSelectionInClipRect:(NSRect)clip {
+    if ([self selectedRow] < 0)
+        return;
+    [[self showsFocus] ? [NSColor alternateSelectedControlColor] : [NSColor secondarySelectedControlColor]
+        set];
+    NSRectFill([self rectOfRow:[self selectedRow]]);
+}
+
+- (void)drawRow:(NSInteger)row clipRect:(NSRect)clip {
+    const BOOL isHighlighted = row == [self selectedRow] && [self showsFocus];
+    for (NSInteger index = 0; index < [self numberOfColumns]; ++index) {
+        NSTableColumn* column = [[self tableColumns] objectAtIndex:static_cast<NSUInteger>(index)];
+        id cell = [column dataCellForRow:row];
+        [cell setObjectValue:[self valueInColumn:index row:row]];
+        if ([cell respondsToSelector:@selector(setTextColor:)])
+            [cell setTextColor:isHighlighted ? [NSColor alternateSelectedControlTextColor]
+                                             : [NSColor textColor]];
+        [cell drawWithFrame:[self frameOfCellAtColumn:index row:row] inView:self];
+    }
+}
+
+#pragma mark - Tool tips
+
+- (void)setHelp:(NSString*)text {
+    help = Retained<NSString*>([[text copy] autorelease]);
+}
+
+- (NSString*)help {
+    return help.get();
+}
+
+- (void)setFrame:(NSRect)frame {
+    [super setFrame:frame];
+    [self updateToolTips];
+}
+
+- (void)viewDidMoveToWindow {
+    [super viewDidMoveToWindow];
+    [self updateToolTips];
+}
+
+/// One rectangle for each row: the system asks for a text once for each.
+- (void)updateToolTips {
+    [self removeAllToolTips];
+    if ([self window] == nil)
+        return;
+    const NSRange rows = [self rowsInRect:[self visibleRect]];
+    const NSRect below = NSMakeRect(0, NSMaxY([self rectOfRow:[self numberOfRows] - 1]),
+                                    NSWidth([self bounds]), NSHeight([self bounds]));
+    [self addToolTipRect:NSIntersectionRect(below, [self visibleRect]) owner:self userData:NULL];
+    for (NSUInteger row = rows.location; row < NSMaxRange(rows); ++row)
+        [self addToolTipRect:[self rectOfRow:static_cast<NSInteger>(row)] owner:self userData:NULL];
+}
+
+- (NSString*)view:(NSView*)view stringForToolTip:(NSToolTipTag)tag point:(NSPoint)point userData:(void*)data {
+    return [self toolTipForRow:[self rowAtPoint:point]];
+}
+
+- (NSString*)toolTipForRow:(NSInteger)row {
+    const NSInteger column = [self columnWithIdentifier:nsString(qbsp::nameColumn.text)];
+    if (row < 0 || row >= [self numberOfRows])
+        return help.get();
+    NSTableColumn* names = [[self tableColumns] objectAtIndex:static_cast<NSUInteger>(column)];
+    auto* cell = static_cast<QBSPNameCell*>([names dataCell]);
+    [cell setObjectValue:[self nameOfRow:row]];
+    const BOOL isShortened = [cell isShortenedInFrame:[self frameOfCellAtColumn:column row:row]];
+    return isShortened ? [self nameOfRow:row] : help.get();
+}
+
+@end
