@@ -76,7 +76,7 @@ RealStores& stores() {
 
 // The process that it is made in is a test's own, and ends with it.
 ShownPane& shownPane(Build build) {
-    return *new ShownPane(build); // NOLINT(cppcoreguidelines-owning-memory)
+    return *std::make_unique<ShownPane>(build).release();
 }
 
 Work leavingThePane(Build build) {
