@@ -34,7 +34,7 @@ TEST_F(PrincipalClass, RespondsToEveryOperationOfThePane) {
 }
 
 TEST_F(PrincipalClass, HasAnIconInSixteenTo512Pixels) {
-    NSBundle* bundle = [NSBundle bundleWithPath:bundlePath];
+    NSBundle* bundle = [NSBundle bundleWithPath:@PANE_BUNDLE];
     NSString* file = [bundle objectForInfoDictionaryKey:@"NSPrefPaneIconFile"];
     NSImage* icon = [[[NSImage alloc] initWithContentsOfFile:[bundle pathForResource:file
                                                                               ofType:nil]] autorelease];
