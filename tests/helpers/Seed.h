@@ -6,9 +6,9 @@
 namespace qbsp {
 
 /// The number that the environment's variable of that name holds; the usual one when there is none.
-[[nodiscard]] inline long numberFromEnvironment(const char* variable, long usual) {
+[[nodiscard]] inline std::int64_t numberFromEnvironment(const char* variable, std::int64_t usual) {
     const char* const text = std::getenv(variable);
-    return text == nullptr ? usual : std::strtol(text, nullptr, 10);
+    return text == nullptr ? usual : std::strtoll(text, nullptr, 10);
 }
 
 /// The seed of a random test, by which it can be repeated.

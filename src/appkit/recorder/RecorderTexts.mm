@@ -1,20 +1,12 @@
 #include "appkit/recorder/RecorderTexts.h"
 
-/// A class by which this bundle is found.
-@interface QBSPRecorderTexts : NSObject
-@end
-
-@implementation QBSPRecorderTexts
-@end
+#include "appkit/bridge/LocalizedTexts.h"
 
 namespace qbsp::recorder {
 
-namespace {
+using appkit::localized;
 
-NSString* localized(NSString* text) {
-    NSBundle* bundle = [NSBundle bundleForClass:[QBSPRecorderTexts class]];
-    return [bundle localizedStringForKey:text value:@"" table:nil];
-}
+namespace {
 
 NSString* ownSentence(Refusal refusal) {
     switch (refusal) {

@@ -1,29 +1,22 @@
 #pragma once
 
 #include "appkit/bridge/Retained.h"
-#import "appkit/view/QBSPListTable.h"
+#import "appkit/view/QBSPListCell.h"
 #include "appkit/view/TypeSelection.h"
 
 #import <AppKit/AppKit.h>
 
 /// The hide list at work. Space ticks the selected row's box, and typing selects the row whose name begins
 /// so. The selection follows its application when the list is loaded again, or goes with it.
-@interface QBSPHideTable : QBSPListTable {
+@interface QBSPHideTable : QBSPListTable <QBSPListOfFlags> {
     qbsp::appkit::TypeSelection typeSelection;
     qbsp::appkit::Retained<NSString*> selectedName;
     qbsp::appkit::Retained<NSString*> accessibilityLabel;
 }
 
-- (NSInteger)flagColumnIndex;
-- (BOOL)flagOfRow:(NSInteger)row;
-
-/// As a click on the row's check box.
-- (void)toggleFlagOfRow:(NSInteger)row;
-
 - (void)setAccessibilityLabel:(NSString*)label;
 - (NSString*)accessibilityRole;
 - (NSString*)accessibilityLabel;
-- (NSString*)accessibilityHelp;
 - (NSInteger)accessibilityRowCount;
 - (NSInteger)accessibilityColumnCount;
 

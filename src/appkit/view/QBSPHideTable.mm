@@ -1,7 +1,6 @@
 #import "appkit/view/QBSPHideTable.h"
 
 #include "appkit/bridge/Strings.h"
-#import "appkit/view/QBSPListCell.h"
 #include "pane/PaneControls.h"
 
 using qbsp::appkit::nsString;

@@ -1,7 +1,5 @@
 #import "appkit/view/QBSPListCell.h"
 
-#import "appkit/view/QBSPHideTable.h"
-
 @interface QBSPListCell ()
 - (BOOL)isFlag;
 - (NSString*)title;
@@ -9,7 +7,7 @@
 
 @implementation QBSPListCell
 
-- (id)initWithTable:(QBSPHideTable*)aTable column:(NSInteger)aColumn row:(NSInteger)aRow {
+- (id)initWithTable:(QBSPListTable<QBSPListOfFlags>*)aTable column:(NSInteger)aColumn row:(NSInteger)aRow {
     if ((self = [super init]) != nil) {
         table = aTable;
         column = aColumn;

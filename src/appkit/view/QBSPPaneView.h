@@ -1,6 +1,7 @@
 #pragma once
 
 #include "appkit/view/FormLayout.h"
+#import "appkit/view/QBSPReasonField.h"
 #include "appkit/view/ViewControls.h"
 
 #import <AppKit/AppKit.h>
@@ -8,11 +9,10 @@
 #include <memory>
 
 @class QBSPFormView;
-@class QBSPReasonField;
 
 /// The pane's main view: a form with all of the pane's controls. It owns the controls; others set their
 /// texts. The form scrolls where the host has no room for it.
-@interface QBSPPaneView : NSView {
+@interface QBSPPaneView : NSView <QBSPReasonLayout> {
     qbsp::appkit::ViewControls controls;
     QBSPReasonField* reasonField;
     QBSPButton* addButton;

@@ -5,7 +5,6 @@
 #import "appkit/view/ControlMaking.h"
 #import "appkit/view/KeyViews.h"
 #import "appkit/view/QBSPFormView.h"
-#import "appkit/view/QBSPReasonField.h"
 #import "appkit/view/ViewTexts.h"
 
 #include <vector>
@@ -74,7 +73,7 @@ static void make(QBSPRecorderView*& recorder) {
 
 - (void)dealloc {
     // A recorder that is deallocated clears the reason that it showed.
-    [reasonField setPaneView:nil];
+    [reasonField setLayout:nil];
     [super dealloc];
 }
 
@@ -89,7 +88,7 @@ static void make(QBSPRecorderView*& recorder) {
     controls.visibilityButton = qbsp::appkit::makeCheckBox();
     reasonField = [[[QBSPReasonField alloc] initWithFrame:NSZeroRect] autorelease];
     qbsp::appkit::makeRemark(reasonField);
-    [reasonField setPaneView:self];
+    [reasonField setLayout:self];
     [controls.noteHotKeyRecorder setReasonField:reasonField];
     [controls.clipHotKeyRecorder setReasonField:reasonField];
     hideAppsScrollView = qbsp::appkit::makeScrollView(controls.hideAppsTable);

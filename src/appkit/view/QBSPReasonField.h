@@ -2,15 +2,18 @@
 
 #import <AppKit/AppKit.h>
 
-@class QBSPPaneView;
+/// What lays the field out.
+@protocol QBSPReasonLayout
+- (void)layOutForm;
+@end
 
 /// The field for the reason why a recorder refuses a key. The pane is laid out anew when it gets a text or
 /// loses it, so that there is room for the reason only while there is one.
 @interface QBSPReasonField : NSTextField {
-    QBSPPaneView* paneView;
+    id<QBSPReasonLayout> layout;
 }
 
 /// Not retained.
-- (void)setPaneView:(QBSPPaneView*)aPaneView;
+- (void)setLayout:(id<QBSPReasonLayout>)aLayout;
 
 @end

@@ -1,16 +1,14 @@
 #import "appkit/view/QBSPReasonField.h"
 
-#import "appkit/view/QBSPPaneView.h"
-
 @implementation QBSPReasonField
 
-- (void)setPaneView:(QBSPPaneView*)aPaneView {
-    paneView = aPaneView;
+- (void)setLayout:(id<QBSPReasonLayout>)aLayout {
+    layout = aLayout;
 }
 
 - (void)setStringValue:(NSString*)text {
     [super setStringValue:text];
-    [paneView layOutForm];
+    [layout layOutForm];
 }
 
 @end

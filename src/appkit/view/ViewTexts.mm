@@ -1,17 +1,8 @@
 #import "appkit/view/ViewTexts.h"
 
-#import "appkit/view/QBSPPaneView.h"
+#include "appkit/bridge/LocalizedTexts.h"
 
 namespace qbsp::appkit {
-
-namespace {
-
-NSString* localized(NSString* text) {
-    NSBundle* bundle = [NSBundle bundleForClass:[QBSPPaneView class]];
-    return [bundle localizedStringForKey:text value:@"" table:nil];
-}
-
-} // namespace
 
 NSString* visibilityTip() {
     return localized(

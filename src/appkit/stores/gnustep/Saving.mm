@@ -23,10 +23,11 @@ std::unique_ptr<StoredLists> makeStoredLists() {
     return lists;
 }
 
-bool saveWithoutWaiting() {
-    // Nobody waits for this, so that it need not wait for others.
-    files::Patience none{files::Patience::Duration(0)};
-    return storedLists().save(none);
+bool saveAgain() {
+    // Another process holds the lock for some milliseconds, which is no failure to speak of. One that holds
+    // it for longer must not hold the user up every time.
+    files::Patience little{std::chrono::milliseconds(200)};
+    return storedLists().save(little);
 }
 
 void saveAtEnd() {
@@ -36,7 +37,7 @@ void saveAtEnd() {
 }
 
 QBSPSaver* saver() {
-    static QBSPSaver* const saver = [[QBSPSaver alloc] initWithSave:saveWithoutWaiting atEnd:saveAtEnd];
+    static QBSPSaver* const saver = [[QBSPSaver alloc] initWithSave:saveAgain atEnd:saveAtEnd];
     return saver;
 }
 
