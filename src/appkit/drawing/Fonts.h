@@ -22,6 +22,10 @@ namespace qbsp::appkit {
 /// there is none.
 [[nodiscard]] NSFont* fontWithCharacters(NSString* characters, NSFont* font);
 
+/// The font in which to set a whole text, whose lines may be several: as above, but the font itself when
+/// there is no other.
+[[nodiscard]] NSFont* fontForText(NSString* text, NSFont* font);
+
 /// Sets texts of any script, and remembers which fonts it found.
 class FontSubstitution {
 public:

@@ -49,6 +49,12 @@ NSFont* fontWithCharacters(NSString* characters, NSFont* font) {
     return hasCharacters(font, characters) ? font : otherFontWithCharacters(characters, [font pointSize]);
 }
 
+NSFont* fontForText(NSString* text, NSFont* font) {
+    NSString* line = [text stringByReplacingOccurrencesOfString:@"\n" withString:@""];
+    NSFont* other = fontWithCharacters(line, font);
+    return other == nil ? font : other;
+}
+
 NSAttributedString* FontSubstitution::text(NSString* characters, NSDictionary* attributes) {
     NSMutableAttributedString* text =
         [[[NSMutableAttributedString alloc] initWithString:characters attributes:attributes] autorelease];

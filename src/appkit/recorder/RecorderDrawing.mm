@@ -21,9 +21,9 @@ NSFont* symbolFont() {
                                       appkit::controlFont());
 }
 
-NSFont* textFont() {
+NSFont* fontFor(NSString* text) {
     NSFont* font = symbolFont();
-    return font != nil ? font : appkit::controlFont();
+    return appkit::fontForText(text, font != nil ? font : appkit::controlFont());
 }
 
 NSBezierPath* roundedRect(NSRect rect) {
@@ -46,7 +46,7 @@ NSDictionary* textAttributes(const RecorderLook& look) {
     [centred setLineBreakMode:NSLineBreakByTruncatingTail];
     const bool isPrompt = look.isEmpty && !look.isListening;
     NSColor* color = isPrompt ? [NSColor disabledControlTextColor] : [NSColor textColor];
-    return [NSDictionary dictionaryWithObjectsAndKeys:textFont(), NSFontAttributeName, color,
+    return [NSDictionary dictionaryWithObjectsAndKeys:fontFor(look.text), NSFontAttributeName, color,
                                                       NSForegroundColorAttributeName, centred,
                                                       NSParagraphStyleAttributeName, nil];
 }

@@ -1,5 +1,7 @@
 #import "appkit/view/QBSPButton.h"
 
+#include "appkit/drawing/Fonts.h"
+
 @interface QBSPButton ()
 - (BOOL)isSwitch;
 - (void)wasPressedIn:(NSInteger)earlier;
@@ -28,6 +30,7 @@
 
 - (void)setTitle:(NSString*)title {
     const BOOL isNew = ![title isEqual:[self title]];
+    [self setFont:qbsp::appkit::fontForText(title, qbsp::appkit::controlFont())];
     [super setTitle:title];
     if (isNew)
         NSAccessibilityPostNotification(self, NSAccessibilityTitleChangedNotification);

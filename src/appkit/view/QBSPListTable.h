@@ -12,6 +12,9 @@
     qbsp::appkit::Retained<NSString*> help;
 }
 
+/// Must be called after the titles of the columns were set.
+- (void)chooseHeaderFonts;
+
 /// Makes the column of flags as wide as its title, and that of names as wide as the room that is left.
 - (void)fitColumns;
 

@@ -16,6 +16,10 @@ static const CGFloat minimumFlagColumnWidth = 70;
 static const CGFloat flagColumnPadding = 16;
 static const CGFloat stripeStrength = 0.06;
 
+static NSFont* headerFont() {
+    return [NSFont boldSystemFontOfSize:[NSFont systemFontSize]];
+}
+
 @interface QBSPListTable ()
 - (NSTableColumn*)addColumn:(NSString*)identifier cell:(NSCell*)cell;
 - (void)addNameColumn;
@@ -51,7 +55,7 @@ static const CGFloat stripeStrength = 0.06;
     [cell setFont:qbsp::appkit::controlFont()];
     [column setDataCell:cell];
     [[column headerCell] setStringValue:@""];
-    [[column headerCell] setFont:[NSFont boldSystemFontOfSize:[NSFont systemFontSize]]];
+    [[column headerCell] setFont:headerFont()];
     [self addTableColumn:column];
     return column;
 }
@@ -84,6 +88,13 @@ static const CGFloat stripeStrength = 0.06;
 }
 
 #pragma mark - Layout
+
+- (void)chooseHeaderFonts {
+    for (NSUInteger index = 0; index < [[self tableColumns] count]; ++index) {
+        NSCell* header = [[[self tableColumns] objectAtIndex:index] headerCell];
+        [header setFont:qbsp::appkit::fontForText([header stringValue], headerFont())];
+    }
+}
 
 // A column may take up more space than its width.
 - (void)fitColumns {

@@ -47,7 +47,12 @@ static void make(QBSPRecorderView*& recorder) {
     recorder = [[[QBSPRecorderView alloc] initWithFrame:frame] autorelease];
 }
 
+static void chooseFontOf(NSTextField* label) {
+    [label setFont:qbsp::appkit::fontForText([label stringValue], qbsp::appkit::controlFont())];
+}
+
 @interface QBSPPaneView ()
+- (void)chooseFonts;
 - (void)makeControls;
 - (void)makeForm;
 - (void)addControls;
@@ -172,11 +177,23 @@ static void make(QBSPRecorderView*& recorder) {
 }
 
 - (void)contentsDidChange {
+    [self chooseFonts];
     for (const FormRow& row : form->rows())
         if (row.label != nil && row.stretch == Stretch::none)
             [static_cast<id>(row.controls.front()) setAccessibilityLabel:[row.label stringValue]];
     [controls.hideAppsTable setAccessibilityLabel:[controls.hideAppLabel stringValue]];
     [self layOutForm];
+}
+
+// The buttons and the field for reasons choose theirs with each text.
+- (void)chooseFonts {
+    qbsp::forEachControl(
+        [](const char*, NSView* control) {
+            if ([control isKindOfClass:[NSTextField class]])
+                chooseFontOf(static_cast<NSTextField*>(control));
+        },
+        controls);
+    [controls.hideAppsTable chooseHeaderFonts];
 }
 
 - (void)layOutForm {

@@ -1,5 +1,7 @@
 #import "appkit/view/QBSPReasonField.h"
 
+#include "appkit/drawing/Fonts.h"
+
 @implementation QBSPReasonField
 
 - (void)setLayout:(id<QBSPReasonLayout>)aLayout {
@@ -7,6 +9,7 @@
 }
 
 - (void)setStringValue:(NSString*)text {
+    [self setFont:qbsp::appkit::fontForText(text, qbsp::appkit::remarkFont())];
     [super setStringValue:text];
     [layout layOutForm];
 }
