@@ -21,7 +21,8 @@ public:
     /// True when the tab should be shown.
     [[nodiscard]] bool tabIsVisible(NSString* host) const;
 
-    /// Reads the list of applications in whose full-screen mode the Sorter hides: "key=value".
+    /// Reads the list of applications in whose full-screen mode the Sorter hides: "key=value". The embedded
+    /// Sorter reads the full edition's, or the Solo edition's where that has none.
     [[nodiscard]] std::string hideList() const;
 
 private:

@@ -39,6 +39,12 @@ id sharedClipHotKey() {
                                                        error:nullptr];
 }
 
+// The pane stores the list for the Sorter of the host's edition, in both builds.
+id listOfAnEdition() {
+    id list = valueInDomain(@"com.quarrybook.Sorter", hiddenApplications);
+    return list == nil ? valueInDomain(@"com.quarrybook.SoloSorter", hiddenApplications) : list;
+}
+
 } // namespace
 
 std::string Stores::hotKeys(NSString* host) const {
@@ -58,7 +64,8 @@ bool Stores::tabIsVisible(NSString* host) const {
 }
 
 std::string Stores::hideList() const {
-    return reading(hiddenApplications, valueInDomain(identifier_, hiddenApplications));
+    return reading(hiddenApplications,
+                   isEmbedded() ? listOfAnEdition() : valueInDomain(identifier_, hiddenApplications));
 }
 
 bool Stores::isEmbedded() const {

@@ -96,6 +96,18 @@ class SorterSettingsTest(SorterTest):
             sorter.kill()
             sorter.wait()
 
+    def test_the_embedded_sorter_starts_with_the_list_that_the_pane_saved(self):
+        for (options, identifier), (_, edition) in zip(self.each_build(SANDBOXED_BUILDS), ORDINARY_BUILDS):
+            self.session.domain_file(SORTER).unlink(missing_ok=True)
+            self.session.set_domain(edition, {HIDE_LIST: {"Atlas": False}})
+            self.play("select", "edit 2 0 1", "unselect", options=options)
+
+            sorter = self.start_by_hand(identifier)
+
+            self.assertIn(f'{HIDE_LIST}={{"Atlas"=YES}}', self.logged("settings")[0])
+            sorter.kill()
+            sorter.wait()
+
     def test_an_edited_hide_list_of_the_sandboxed_build_reaches_the_edition_s_sorter(self):
         options, _ = SANDBOXED_BUILDS[1]
         self.session.set_domain(SOLO_SORTER, {HIDE_LIST: {"Atlas": False}})
