@@ -1,4 +1,4 @@
-#include "PaneWindow.h"
+#include "LaidOutPane.h"
 
 #include "appkit/drawing/Fonts.h"
 #import "appkit/view/Alignment.h"
@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <string>
-#include <vector>
 
 namespace qbsp::appkit {
 
@@ -18,33 +17,8 @@ NSString* const longestReason =
 
 constexpr CGFloat fontSizes[] = {9, 12, 15, 18, 21, 24};
 
-class Layout : public PaneWindow {
+class Layout : public LaidOutPane {
 protected:
-    [[nodiscard]] NSView* form() const { return [controls().visibilityButton superview]; }
-
-    [[nodiscard]] NSScrollView* list() const { return [controls().hideAppsTable enclosingScrollView]; }
-
-    [[nodiscard]] std::vector<NSView*> shownParts() const {
-        std::vector<NSView*> shown;
-        NSArray* const parts = [form() subviews];
-        for (NSUInteger index = 0; index < [parts count]; ++index)
-            if (takesSpace([parts objectAtIndex:index]))
-                shown.push_back([parts objectAtIndex:index]);
-        return shown;
-    }
-
-    void expectWhole(NSView* part) const {
-        const NSRect rect = visiblePart(part);
-        EXPECT_TRUE(NSContainsRect([form() bounds], rect)) << [[part description] UTF8String];
-        if ([part isKindOfClass:[NSButton class]]) {
-            EXPECT_GE(NSWidth(rect), naturalWidth(part)) << [[part description] UTF8String];
-        }
-        if ([part isKindOfClass:[NSTextField class]]) {
-            const NSSize needed = sizeOfWrappedText(static_cast<NSTextField*>(part), NSWidth(rect));
-            EXPECT_GE(NSHeight(rect), needed.height) << [[part description] UTF8String];
-        }
-    }
-
     /// The lowest row of the view's pixels, from its top, that has the text's colour in the columns from that
     /// one on.
     [[nodiscard]] NSInteger lowestInk(NSView* inkedView, NSInteger firstColumn) {
@@ -143,13 +117,7 @@ TEST_F(Layout, CutsNothingAndCoversNothingAtAnySizeOfTypeAndWindow) {
             setFontSize(size);
             [view setFrameSize:room];
 
-            const std::vector<NSView*> parts = shownParts();
-            for (std::size_t index = 0; index < parts.size(); ++index) {
-                expectWhole(parts[index]);
-                for (std::size_t other = 0; other < index; ++other)
-                    EXPECT_FALSE(NSIntersectsRect(visiblePart(parts[index]), visiblePart(parts[other])))
-                        << [[parts[index] description] UTF8String];
-            }
+            expectNothingCutOrCovered();
         }
 }
 

@@ -18,6 +18,12 @@ protected:
     /// The view made anew, as it is when the user's system font has that size.
     void setFontSize(CGFloat size);
 
+    /// A key's text in another language.
+    using Translation = std::function<NSString*(NSString* key)>;
+
+    /// Gives the pane those texts. It is not laid out again.
+    void setTexts(const Translation& translate);
+
     void setNames(const std::vector<std::string>& names);
 
     [[nodiscard]] bool flag(std::size_t row) const { return listing_.get()->flags.at(row); }

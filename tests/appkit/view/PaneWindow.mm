@@ -47,28 +47,6 @@ bool hasKeyboard(NSWindow* window) {
     return recorder::XWindow([server serverDevice], reinterpret_cast<unsigned long>(device)).hasKeyboard();
 }
 
-void setTexts(QBSPPaneView* view) {
-    const ViewControls& controls = [view controls];
-    [controls.descriptionLabel
-        setStringValue:@"The Sorter helps to collect information from any application to specified groups "
-                        "even if a database is not available.\n\nThe Sorter appears as a `Quarrybook' tab "
-                        "attached to a screen border."];
-    [controls.availabilityLabel setStringValue:@"Availability:"];
-    [controls.showAtLoginCheckbox setTitle:@"Start Sorter at login"];
-    [controls.toggleLaunchButton setTitle:@"Show"];
-    [controls.attentionLabel setHidden:YES];
-    [controls.visibilityLabel setStringValue:@"Visibility:"];
-    [controls.visibilityButton setTitle:@"Full"];
-    [controls.takeNoteLabel setStringValue:@"Take Note Hotkey:"];
-    [controls.copySelectionLabel setStringValue:@"Copy Selection Hotkey:"];
-    [controls.hideAppLabel setStringValue:@"Hide Sorter in Full Screen:"];
-    [controls.resetFullscreenSettingsButton setTitle:@"Reset Fullscreen Settings"];
-    [[view addButton] setTitle:@"Add..."];
-    NSArray* columns = [controls.hideAppsTable tableColumns];
-    [[[columns objectAtIndex:0] headerCell] setStringValue:@"Application"];
-    [[[columns objectAtIndex:1] headerCell] setStringValue:@"Hide"];
-}
-
 NSEvent* keyEvent(NSEventType type, NSWindow* window, NSString* characters, NSUInteger modifiers) {
     return [NSEvent keyEventWithType:type
                             location:NSZeroPoint
@@ -115,13 +93,34 @@ void PaneWindow::makeView() {
         [controls().hideAppsTable setDataSource:nil];
     view_ = Retained<QBSPPaneView*>::adopt([[QBSPPaneView alloc] initWithFrame:NSZeroRect]);
     view = view_.get();
-    setTexts(view);
+    [controls().attentionLabel setHidden:YES];
+    setTexts([](NSString* key) { return key; });
     [controls().hideAppsTable setDataSource:static_cast<id>(listing_.get())];
     setNames({"Atlas", "Books", "Calendar", "Mail", "Maps"});
     [view setFrame:[[window contentView] bounds]];
     [[window contentView] addSubview:view];
     [view contentsDidChange];
     settle();
+}
+
+void PaneWindow::setTexts(const Translation& translate) {
+    [controls().descriptionLabel
+        setStringValue:translate(@"The Sorter helps to collect information from any application to specified "
+                                  "groups even if a database is not available.\n\nThe Sorter appears as a "
+                                  "`Quarrybook' tab attached to a screen border.")];
+    [controls().availabilityLabel setStringValue:translate(@"Availability:")];
+    [controls().showAtLoginCheckbox setTitle:translate(@"Start Sorter at login")];
+    [controls().toggleLaunchButton setTitle:translate(@"Show")];
+    [controls().visibilityLabel setStringValue:translate(@"Visibility:")];
+    [controls().visibilityButton setTitle:translate(@"Full")];
+    [controls().takeNoteLabel setStringValue:translate(@"Take Note Hotkey:")];
+    [controls().copySelectionLabel setStringValue:translate(@"Copy Selection Hotkey:")];
+    [controls().hideAppLabel setStringValue:translate(@"Hide Sorter in Full Screen:")];
+    [controls().resetFullscreenSettingsButton setTitle:translate(@"Reset Fullscreen Settings")];
+    [[view addButton] setTitle:translate(@"Add...")];
+    NSArray* columns = [controls().hideAppsTable tableColumns];
+    [[[columns objectAtIndex:0] headerCell] setStringValue:translate(@"Application")];
+    [[[columns objectAtIndex:1] headerCell] setStringValue:translate(@"Hide")];
 }
 
 void PaneWindow::setFontSize(CGFloat size) {
