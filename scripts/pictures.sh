@@ -4,27 +4,19 @@
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/scripts/session.sh"
+. "$root/scripts/colors.sh"
 
 pictures=$(realpath "${1:-$root/docs/pictures}")
 quarrybook="$root/build/bin/Quarrybook.app/Quarrybook"
 home=$(mktemp -d /tmp/qb-home.XXXXXX)
 
-# System colours of a dark desktop, as AppKit's defaults have them.
-dark=(-windowBackgroundColor "0.16 0.16 0.18" -controlBackgroundColor "0.16 0.16 0.18" -controlColor "0.27 0.27 0.29"
-    -controlTextColor "0.92 0.92 0.92" -textColor "0.92 0.92 0.92" -textBackgroundColor "0.10 0.10 0.11"
-    -controlHighlightColor "0.33 0.33 0.35" -controlLightHighlightColor "0.45 0.45 0.47" -controlShadowColor "0.45 0.45 0.47"
-    -controlDarkShadowColor "0.08 0.08 0.08" -disabledControlTextColor "0.62 0.62 0.62" -windowFrameTextColor "0.92 0.92 0.92"
-    -keyboardFocusIndicatorColor "0.40 0.65 1.0" -alternateSelectedControlColor "0.10 0.35 0.75"
-    -alternateSelectedControlTextColor "1.0 1.0 1.0" -secondarySelectedControlColor "0.30 0.30 0.33"
-    -selectedControlColor "0.27 0.27 0.29" -selectedControlTextColor "0.92 0.92 0.92" -headerColor "0.22 0.22 0.24"
-    -headerTextColor "0.92 0.92 0.92" -scrollBarColor "0.22 0.22 0.24" -knobColor "0.33 0.33 0.35")
-colors=()
+options=("${light_colors[@]}")
 
 picture() { # NAME FONT-SIZE WIDTH HEIGHT LINE...
     local name=$1 font=$2 width=$3 height=$4
     shift 4
     printf '%s\n' "resize $width $height" select "$@" "wait 0.4" "picture \"$pictures/$name.png\"" unselect >"$home/scenario"
-    session_run "$quarrybook" -NSFontSize "$font" "${colors[@]}" --play "$home/scenario" >/dev/null
+    session_run "$quarrybook" -NSFontSize "$font" "${options[@]}" --play "$home/scenario" >/dev/null
 }
 
 session_start "$home"
@@ -39,10 +31,14 @@ picture smallest-window 12 480 440
 for font in 9 12 15 18 21 24; do
     picture "type-$font" "$font" 620 680
 done
-colors=("${dark[@]}")
+for language in Arabic Dutch French German Italian Japanese pt_BR SimplifiedChinese Spanish; do
+    options=("${light_colors[@]}" -NSLanguages "($language, English)")
+    picture "language-$language" 12 620 680
+done
+options=("${dark_colors[@]}")
 picture dark-colours 12 620 680 "edit 1 3 0"
 
-colors=()
+options=("${light_colors[@]}")
 {
     printf '<?xml version="1.0" encoding="UTF-8"?>\n<plist version="1.0"><dict>'
     printf '<key>UserSpecifiedFullScreenApplications</key><dict>'
