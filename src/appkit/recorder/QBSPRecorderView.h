@@ -9,7 +9,8 @@
 struct QBSPRecorderParts;
 
 /// A field that records a key combination. A click or Space makes it listen; Esc, or losing the focus or the
-/// window's key status, ends that. Delete or the small cross clears it.
+/// window's key status, ends that. Delete clears it while it listens, the small cross at any time; Command-Z
+/// brings back what was there.
 ///
 /// On every system, codes are the Mac's virtual key codes and flags are Cocoa's. Code -1 with flags 0 is the
 /// empty combination.
@@ -55,5 +56,8 @@ struct QBSPRecorderParts;
 /// was done.
 - (BOOL)accessibilityPerformPress;
 - (BOOL)accessibilityPerformDelete;
+
+/// Takes back what the user recorded or cleared last, as Command-Z does.
+- (void)undo:(id)sender;
 
 @end

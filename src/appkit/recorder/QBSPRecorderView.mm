@@ -11,10 +11,19 @@
 using namespace qbsp::recorder;
 using qbsp::appkit::Retained;
 
+static bool printsZ(NSEvent* event) {
+    return [[[event charactersIgnoringModifiers] lowercaseString] isEqualToString:@"z"];
+}
+
+static bool isCommand(const KeyPress& press) {
+    return (press.flags & modifiers::all) == modifiers::command && !press.isRepeat;
+}
+
 @interface QBSPRecorderView ()
 - (void)watch:(SEL)selector name:(NSString*)name of:(NSWindow*)window;
 - (void)stopListening;
 - (BOOL)handleKeyDown:(NSEvent*)event;
+- (BOOL)undoesAt:(NSEvent*)event;
 - (BOOL)isOnClearButton:(NSEvent*)event;
 - (NSString*)comboText:(std::string (*)(const KeyCombo&, const LayoutLabel&))inForm;
 @end
@@ -140,9 +149,23 @@ struct QBSPRecorderParts {
 - (BOOL)performKeyEquivalent:(NSEvent*)event {
     // While the recorder listens, no other key equivalent may act on the key, which may be the one to record.
     if (![self isListening])
-        return [super performKeyEquivalent:event];
+        return [self undoesAt:event] || [super performKeyEquivalent:event];
     [self handleKeyDown:event];
     return YES;
+}
+
+// The system's own Command, which need not be the key that a recorder takes for it.
+- (BOOL)undoesAt:(NSEvent*)event {
+    constexpr NSUInteger all = NSShiftKeyMask | NSControlKeyMask | NSAlternateKeyMask | NSCommandKeyMask;
+    if ([[self window] firstResponder] != self || ([event modifierFlags] & all) != NSCommandKeyMask ||
+        !printsZ(event))
+        return NO;
+    [self undo:nil];
+    return YES;
+}
+
+- (void)undo:(id)__attribute__((unused))sender {
+    _parts->logic.undo();
 }
 
 - (void)keyDown:(NSEvent*)event {
@@ -164,6 +187,10 @@ struct QBSPRecorderParts {
     const std::optional<KeyPress> press = _parts->keyboard->press(event);
     if (!press)
         return YES;
+    if (![self isListening] && isCommand(*press) && printsZ(event)) {
+        [self undo:nil];
+        return YES;
+    }
     const KeyOutcome outcome = _parts->logic.keyPressed(*press);
     if (outcome == KeyOutcome::nextView)
         [[self window] selectKeyViewFollowingView:self];

@@ -22,6 +22,7 @@ RecorderLogic::RecorderLogic(RecorderListener& listener) : listener_(listener) {
 
 void RecorderLogic::setCombo(const KeyCombo& combo) {
     combo_ = normalized(combo);
+    earlier_.reset();
     listener_.lookChanged();
 }
 
@@ -44,6 +45,14 @@ void RecorderLogic::clear() {
     accept({});
 }
 
+void RecorderLogic::undo() {
+    if (armed_ || !earlier_)
+        return;
+    const KeyCombo wanted = *earlier_;
+    listener_.refusalPassed();
+    holdsKey(wanted) ? offer(wanted) : clear();
+}
+
 KeyOutcome RecorderLogic::keyPressed(const KeyPress& press) {
     // A key that is held down acts only once.
     if (press.isRepeat)
@@ -61,7 +70,7 @@ KeyOutcome RecorderLogic::keyPressed(const KeyPress& press) {
 }
 
 KeyOutcome RecorderLogic::plainKeyPressed(VirtualKey key) {
-    if (key == keys::backspace || key == keys::forwardDelete)
+    if ((key == keys::backspace || key == keys::forwardDelete) && armed_)
         clear();
     else if (key == keys::space && !armed_)
         arm();
@@ -94,7 +103,10 @@ void RecorderLogic::offer(const KeyCombo& combo) {
 }
 
 void RecorderLogic::accept(const KeyCombo& combo) {
-    const bool changed = combo != combo_;
+    const KeyCombo before = combo_;
+    const bool changed = combo != before;
+    if (changed)
+        earlier_ = before;
     combo_ = combo;
     armed_ = false;
     listener_.refusalPassed();

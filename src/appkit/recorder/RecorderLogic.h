@@ -2,6 +2,8 @@
 
 #include "appkit/recorder/VirtualKeys.h"
 
+#include <optional>
+
 namespace qbsp::recorder {
 
 /// A key that went down, with the modifiers held at that moment.
@@ -70,6 +72,11 @@ public:
     /// Stops listening and sets the empty combination. Reports it, unless the combination was empty already.
     void clear();
 
+    /// Takes back what the user recorded or cleared last, and reports that; a second time, takes that back.
+    /// Does nothing while it listens, before the user has changed anything, and since setCombo(). A
+    /// combination that is in use by now is refused.
+    void undo();
+
     /// Acts on the key, and returns what is left for the caller to do.
     [[nodiscard]] KeyOutcome keyPressed(const KeyPress& press);
 
@@ -82,6 +89,7 @@ private:
 
     RecorderListener& listener_;
     KeyCombo combo_;
+    std::optional<KeyCombo> earlier_; ///< what the user's last change replaced
     bool armed_ = false;
 };
 

@@ -145,12 +145,63 @@ TEST_F(ArmedRecorder, RecordsDeleteWithAModifier) {
     EXPECT_EQ(logic.combo(), (KeyCombo{.flags = modifiers::command, .code = keys::backspace}));
 }
 
-TEST_F(Recorder, AlsoClearsAtDeleteWhileItIsIdle) {
+TEST_F(Recorder, LeavesDeleteToOthersWhileItIsIdle) {
     logic.setCombo(commandA);
 
-    press(keys::forwardDelete);
+    EXPECT_EQ(press(keys::forwardDelete), KeyOutcome::notHandled);
+    EXPECT_EQ(press(keys::backspace), KeyOutcome::notHandled);
 
+    EXPECT_EQ(logic.combo(), commandA);
+    EXPECT_TRUE(listener.reported.empty());
+}
+
+TEST_F(Recorder, BringsBackWhatWasClearedAndTakesThatBack) {
+    logic.setCombo(commandA);
+    logic.clear();
+
+    logic.undo();
+    EXPECT_EQ(logic.combo(), commandA);
+    logic.undo();
+
+    EXPECT_EQ(logic.combo(), empty);
+    EXPECT_EQ(listener.reported, (std::vector{empty, commandA, empty}));
+}
+
+TEST_F(ArmedRecorder, BringsBackWhatARecordedCombinationReplaced) {
+    press(controlC);
+
+    logic.undo();
+
+    EXPECT_EQ(logic.combo(), commandA);
+    EXPECT_EQ(listener.reported, (std::vector{controlC, commandA}));
+}
+
+TEST_F(Recorder, RefusesToBringBackWhatIsTakenByNow) {
+    logic.setCombo(commandA);
+    logic.clear();
+    listener.takenCombo = commandA;
+
+    logic.undo();
+
+    EXPECT_EQ(logic.combo(), empty);
     EXPECT_EQ(listener.reported, std::vector{empty});
+}
+
+TEST_F(Recorder, HasNothingToBringBackBeforeAChangeAndWhileItListens) {
+    logic.setCombo(commandA);
+    logic.undo();
+    EXPECT_EQ(logic.combo(), commandA);
+
+    logic.clear();
+    logic.arm();
+    logic.undo();
+    EXPECT_EQ(logic.combo(), empty);
+    EXPECT_TRUE(logic.isArmed());
+
+    logic.setCombo(controlC);
+    logic.disarm();
+    logic.undo();
+    EXPECT_EQ(logic.combo(), controlC);
 }
 
 TEST_F(Recorder, DoesNotReportThatAnEmptyRecorderWasCleared) {

@@ -124,6 +124,18 @@ TEST_F(RecorderView, DeleteAndBackspaceClearItAndReportTheEmptyCombination) {
     EXPECT_EQ(delegateCalls.reported.size(), 2U) << "each key should have been reported once";
 }
 
+TEST_F(RecorderView, BringsBackAtCommandZWhatTheClearButtonRemoved) {
+    [first setKeyCode:keyA flags:modifiers::command];
+    clickClearButton(first);
+    [[first window] makeFirstResponder:first];
+
+    press("super+z");
+
+    EXPECT_EQ(comboOf(first), commandA);
+    EXPECT_EQ(delegateCalls.reported, (std::vector{empty, commandA}));
+    EXPECT_FALSE([first isListening]);
+}
+
 TEST_F(RecorderView, TheClearButtonClearsItAndReportsTheEmptyCombination) {
     [first setKeyCode:keyA flags:modifiers::command];
 
