@@ -57,6 +57,9 @@ struct QBSPRecorderParts;
 - (BOOL)accessibilityPerformPress;
 - (BOOL)accessibilityPerformDelete;
 
+/// Keeps the combination. Does nothing when it does not listen.
+- (void)stopListening;
+
 /// Takes back what the user recorded or cleared last, as Command-Z does.
 - (void)undo:(id)sender;
 

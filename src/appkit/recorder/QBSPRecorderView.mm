@@ -21,7 +21,6 @@ static bool isCommand(const KeyPress& press) {
 
 @interface QBSPRecorderView ()
 - (void)watch:(SEL)selector name:(NSString*)name of:(NSWindow*)window;
-- (void)stopListening;
 - (BOOL)handleKeyDown:(NSEvent*)event;
 - (BOOL)undoesAt:(NSEvent*)event;
 - (BOOL)isOnClearButton:(NSEvent*)event;

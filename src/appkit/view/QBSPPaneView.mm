@@ -217,6 +217,15 @@ static void chooseFontOf(NSTextField* label) {
     [self setNeedsDisplay:YES];
 }
 
+#pragma mark - The mouse
+
+// A click beside the controls, which does not move the focus.
+- (void)mouseDown:(NSEvent*)event {
+    [controls.noteHotKeyRecorder stopListening];
+    [controls.clipHotKeyRecorder stopListening];
+    [super mouseDown:event];
+}
+
 #pragma mark - The controls
 
 - (const ViewControls&)controls {

@@ -142,6 +142,18 @@ TEST_F(Layout, ScrollsToTheControlThatGetsTheFocus) {
         NSContainsRect([[form() enclosingScrollView] documentVisibleRect], visiblePart([view lastControl])));
 }
 
+TEST_F(Layout, StopsRecordingAtAClickBesideTheControls) {
+    QBSPRecorderView* const recorder = controls().noteHotKeyRecorder;
+    const NSPoint middle = NSMakePoint(NSMidX([recorder bounds]), NSMidY([recorder bounds]));
+    clickAt(recorder, middle, [recorder] { return [recorder isListening]; });
+    ASSERT_TRUE([recorder isListening]);
+
+    clickAt(form(), NSMakePoint(5, 5), [recorder] { return ![recorder isListening]; });
+
+    EXPECT_FALSE([recorder isListening]);
+    EXPECT_EQ(focused(), recorder);
+}
+
 TEST_F(Layout, TogglesAFlagByAClickOnItsBoxOnly) {
     QBSPHideTable* const table = controls().hideAppsTable;
     const NSRect cell = [table frameOfCellAtColumn:1 row:2];
