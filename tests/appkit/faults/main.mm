@@ -13,9 +13,14 @@ bool isLong = false;
 
 } // namespace faults
 
+// They must exist before any other instance.
+static void makeSharedDefaults() {
+    [NSUserDefaults standardUserDefaults];
+}
+
 int main(int argc, char** argv) {
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
-    [NSUserDefaults standardUserDefaults]; // must exist before any other instance
+    makeSharedDefaults();
     testing::InitGoogleTest(&argc, argv);
     // A C++ handler that an Objective-C exception passes would end the process.
     GTEST_FLAG_SET(catch_exceptions, false);
