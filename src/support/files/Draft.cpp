@@ -53,7 +53,7 @@ std::error_code give(const Descriptor& file, const struct stat& wanted) {
         if (failure && (failure != std::errc::operation_not_permitted || !isOwned))
             return failure;
         if (failure)
-            permissions &= ~S_IRWXG | (permissions & S_IRWXO) << 3U;
+            permissions &= ~mode_t{S_IRWXG} | (permissions & S_IRWXO) << 3U;
     }
     return attempt([&] { return fchmod(file.number(), permissions); });
 }
