@@ -22,7 +22,7 @@ report() { # NAME OPTION...
 }
 
 # Some programs compile pieces of the core once more, with branches that are numbered in another way.
-count core "$root/src/($core_rooms)/" --exclude-directories '.*/tests/(appkit|propertylists)'
+count core "$root/src/($core_rooms)/" --exclude-directories '.*/tests/(appkit|propertylists|walks)'
 count shell "$root/src/(appkit|propertylists|support)/"
 gcovr --root "$root" --add-tracefile "$build/report/core.json" --add-tracefile "$build/report/shell.json" \
     "${branches[@]}" --html-details "$build/report/index.html"
