@@ -41,6 +41,10 @@ class Host:
         return self.lines()
 
     def terminate(self):
-        """Asks the host to end, and finishes."""
+        """Asks the host to end once it rests, and finishes.
+
+        AppKit handles the signal where it interrupts, and may hang when that is in the middle of something.
+        """
+        self.wait_until_idle()
         self.process.send_signal(signal.SIGTERM)
         return self.finish()

@@ -35,8 +35,7 @@ class SystemPreferencesTest(unittest.TestCase):
         self.show_pane()
         self.click_first_check_box(True)
 
-        # AppKit handles the signal where it interrupts, and may hang when that is in the middle of something.
-        self.host.wait_until_idle()
+        self.host.wait_until_idle()  # as Host.terminate() does
         self.host.process.terminate()
         self.controls.wait_for(title="Cancel")
         self.click_cancel(lambda: self.host.process.poll() is not None, "the end of the host")
