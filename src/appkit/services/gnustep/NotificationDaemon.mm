@@ -62,8 +62,8 @@ bool notificationDaemonIsReady() {
     return isUp;
 }
 
-// A notice waits for no answer, but for room once the daemon has not read some dozens of them. The end of the
-// application waits for the answer to its leave.
+// Posting a notice waits only while the daemon has some dozens of them unread. An application that ends waits
+// for the daemon's reply.
 void boundWaitForNotificationDaemon() {
     NSConnection* connection = connectionToDaemon();
     [connection setRequestTimeout:0.3];
