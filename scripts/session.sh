@@ -26,18 +26,14 @@ session_start() { # HOME
 
 # Starts a virtual display with the window manager that GNUstep needs.
 session_display() {
-    local number="$session_temp/display"
+    local number="$session_temp/display" managed="$session_temp/managed"
     env -u TEMP Xvfb -displayfd 3 -screen 0 1280x1000x24 -nolisten tcp -noreset 3>"$number" >/dev/null 2>&1 &
     session_server=$!
     session_wait "the virtual display" test -s "$number"
     DISPLAY=:$(cat "$number")
     export DISPLAY
-    openbox --config-file "$session_scripts/openbox.xml" >/dev/null 2>&1 &
-    session_wait "the window manager" session_has_manager
-}
-
-session_has_manager() {
-    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
+    openbox --config-file "$session_scripts/openbox.xml" --startup "touch $managed" >/dev/null 2>&1 &
+    session_wait "the window manager" test -e "$managed"
 }
 
 # Runs a program to its end. Unlike a foreground command, it does not delay a signal that ends the session.
@@ -62,13 +58,12 @@ session_wait() { # WHAT COMMAND...
 # The processes of the session, however they were started: all have its TEMP.
 session_processes() {
     local environment pid
-    for environment in /proc/[0-9]*/environ; do
+    # What looks for the mark must not have it itself.
+    for environment in $(env -u TEMP grep -lszFx -e "TEMP=$session_temp" /proc/[0-9]*/environ); do
         pid=${environment#/proc/}
         pid=${pid%/environ}
-        if [ "$pid" != $$ ] && tr '\0' '\n' 2>/dev/null <"$environment" | grep -qx "TEMP=$session_temp"; then
-            echo "$pid"
-        fi
-    done 2>/dev/null
+        [ "$pid" = $$ ] || echo "$pid"
+    done
 }
 
 # Those of them that use the notification daemon and the window manager.

@@ -14,7 +14,7 @@ packages_for() {
     application)
         echo cmake ninja-build make g++ gobjc++ gnustep-make nlohmann-json3-dev \
             libgnustep-gui-dev libpreferencepanes-dev libxml2-dev gnustep-gui-runtime gnustep-base-runtime "$drawing" \
-            pkg-config libx11-dev libxkbcommon-dev libfontconfig-dev fonts-dejavu-core xvfb openbox x11-utils
+            pkg-config libx11-dev libxkbcommon-dev libfontconfig-dev fonts-dejavu-core xvfb openbox
         ;;
     tests)
         echo googletest python3 clang libclang-rt-dev clang-format doxygen g++-multilib \

@@ -120,14 +120,10 @@ class Session:
         os.close(writer)
         with os.fdopen(reader) as numbers:
             self.environment["DISPLAY"] = ":" + numbers.readline().strip()
-        self.manager = subprocess.Popen(["openbox", "--config-file", WINDOW_MANAGER], env=self.environment,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until(self._has_window_manager, "the window manager", lambda: f"status {self.manager.poll()}")
-
-    def _has_window_manager(self):
-        root = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.environment,
-                              capture_output=True, text=True)
-        return "window id" in root.stdout
+        managed = self.folder / "managed"
+        self.manager = subprocess.Popen(["openbox", "--config-file", WINDOW_MANAGER, "--startup", f"touch {managed}"],
+                                        env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(managed.exists, "the window manager", lambda: f"status {self.manager.poll()}")
 
     # --- Programs
 
