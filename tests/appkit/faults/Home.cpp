@@ -1,7 +1,8 @@
 #include "Home.h"
 
+#include "FileContents.h"
+
 #include <fstream>
-#include <iterator>
 
 namespace faults {
 
@@ -39,11 +40,6 @@ void put(const Contents& contents, const fs::path& folder) {
         fs::remove_all(entry.path());
     for (const auto& [name, content] : contents)
         putOne(folder / name, content);
-}
-
-std::string bytesOf(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
 } // namespace faults

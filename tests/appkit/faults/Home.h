@@ -15,6 +15,4 @@ using Contents = std::map<std::string, std::string>;
 /// Makes the folder hold just that. What has no extension is a folder.
 void put(const Contents& contents, const std::filesystem::path& folder);
 
-[[nodiscard]] std::string bytesOf(const std::filesystem::path& file);
-
 } // namespace faults

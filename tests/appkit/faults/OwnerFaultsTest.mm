@@ -1,3 +1,4 @@
+#include "FileContents.h"
 #include "Home.h"
 #include "Supervision.h"
 

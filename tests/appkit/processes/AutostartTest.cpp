@@ -1,5 +1,6 @@
 #include "xdg/Autostart.h"
 
+#include "FileContents.h"
 #include "TemporaryFolder.h"
 #include "files/Draft.h"
 #include "xdg/UserFolders.h"
@@ -21,11 +22,6 @@ namespace fs = std::filesystem;
 const DesktopEntry sorter{"Quarrybook Sorter", "/opt/Quarrybook Sorter"};
 const std::string identifier = "com.quarrybook.Sorter";
 
-std::string contentOf(const fs::path& file) {
-    std::ifstream stream(file);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
-
 std::ptrdiff_t filesIn(const fs::path& folder) {
     return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
 }
@@ -43,7 +39,7 @@ protected:
 TEST_F(AutostartFolder, IsMadeWhenItIsMissing) {
     EXPECT_FALSE(autostart.add(identifier, sorter));
 
-    EXPECT_EQ(contentOf(file), desktopEntryText(sorter));
+    EXPECT_EQ(bytesOf(file), desktopEntryText(sorter));
     EXPECT_EQ(filesIn(folder), 1) << "there should be one entry and no temporary file";
 }
 
@@ -80,7 +76,7 @@ TEST_F(AutostartFolder, RefusesWhenItCannotBeMade) {
 
     EXPECT_TRUE(autostart.add(identifier, sorter));
     EXPECT_EQ(autostart.program(identifier), std::nullopt);
-    EXPECT_EQ(contentOf(temporary.path() / "config"), "a file where the folder should be");
+    EXPECT_EQ(bytesOf(temporary.path() / "config"), "a file where the folder should be");
 }
 
 TEST_F(AutostartFolder, RefusesWhenAFolderIsInTheEntrysPlaceAndLeavesNothingBehind) {
@@ -98,8 +94,8 @@ TEST_F(AutostartFolder, IsReplacedAsAWholeFile) {
 
     ASSERT_FALSE(autostart.add(identifier, sorter));
 
-    EXPECT_EQ(contentOf(folder / "earlier"), std::string(100'000, 'x')) << "the old file was written into";
-    EXPECT_EQ(contentOf(file), desktopEntryText(sorter));
+    EXPECT_EQ(bytesOf(folder / "earlier"), std::string(100'000, 'x')) << "the old file was written into";
+    EXPECT_EQ(bytesOf(file), desktopEntryText(sorter));
 }
 
 TEST_F(AutostartFolder, AndItsEntriesAreTheOwnersAloneWhateverTheUmask) {
@@ -119,7 +115,7 @@ TEST_F(AutostartFolder, LeavesALinkAndWritesTheFileThatItNames) {
     EXPECT_FALSE(autostart.add(identifier, sorter));
 
     EXPECT_TRUE(fs::is_symlink(file));
-    EXPECT_EQ(contentOf(temporary.path() / "entry"), desktopEntryText(sorter));
+    EXPECT_EQ(bytesOf(temporary.path() / "entry"), desktopEntryText(sorter));
 }
 
 TEST(UserFolders, AreWhatTheEnvironmentSays) {

@@ -50,8 +50,8 @@ TEST_F(LoginItemCheck, SwitchedOnIsListedAndStartsNowAndAtLogin) {
     EXPECT_TRUE(eventually([] { return sorterRuns(); }));
     EXPECT_EQ(std::system(("desktop-file-validate '" + entry.string() + "'").c_str()), 0)
         << "the entry should be valid:\n"
-        << textOf(entry);
-    EXPECT_NE(textOf(entry).find(EMBEDDED_SORTER_EXECUTABLE), std::string::npos) << textOf(entry);
+        << bytesOf(entry);
+    EXPECT_NE(bytesOf(entry).find(EMBEDDED_SORTER_EXECUTABLE), std::string::npos) << bytesOf(entry);
 }
 
 TEST_F(LoginItemCheck, SwitchedOffIsNeitherListedNorRunning) {
@@ -130,7 +130,7 @@ TEST_F(LoginItemCheck, IsNoJobWhenTheRecordCannotBeRead) {
     EXPECT_FALSE(sorterIsAJob());
     services.loginItemSetEnabled(embedded, true);
     EXPECT_TRUE(sorterIsAJob());
-    EXPECT_EQ(textOf(record.string() + ".unreadable"), "<plist><nonsense");
+    EXPECT_EQ(bytesOf(record.string() + ".unreadable"), "<plist><nonsense");
 }
 
 TEST_F(LoginItemCheck, IsNoJobWhateverElseTheRecordHolds) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FileContents.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -11,9 +13,6 @@
 /// Success as soon as the condition holds; failure when it does not within ten seconds. The run loop runs
 /// meanwhile.
 [[nodiscard]] testing::AssertionResult eventually(const std::function<bool()>& condition);
-
-/// The text of the file; empty when there is none.
-[[nodiscard]] std::string textOf(const std::filesystem::path& file);
 
 /// A test with real applications in a session of its own. None of them outlives it.
 class RealSession : public testing::Test {

@@ -8,7 +8,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -61,11 +60,6 @@ testing::AssertionResult eventually(const std::function<bool()>& condition) {
         [pool release];
     }
     return testing::AssertionSuccess();
-}
-
-std::string textOf(const fs::path& file) {
-    std::ifstream stream(file);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
 RealSession::RealSession() : folder(inHome("test")) {

@@ -55,7 +55,7 @@ TEST_F(RegistrarCheck, AddsAndRemovesALoginItemThatADesktopAccepts) {
     EXPECT_TRUE(isRegistered());
     EXPECT_EQ(std::system(("desktop-file-validate '" + entry.string() + "'").c_str()), 0)
         << "the entry should be valid:\n"
-        << textOf(entry);
+        << bytesOf(entry);
 
     EXPECT_TRUE([registrar unregisterApplication:sorter]);
     EXPECT_FALSE(isRegistered());
@@ -90,7 +90,7 @@ TEST_F(RegistrarCheck, LeavesAnEntryAsItIsWhenNothingHasToChange) {
     ASSERT_TRUE([registrar registerApplication:sorter]);
     std::ofstream(entry, std::ios::app) << "Comment=mine\n";
     EXPECT_TRUE([registrar registerApplication:sorter]);
-    EXPECT_NE(textOf(entry).find("Comment=mine"), std::string::npos);
+    EXPECT_NE(bytesOf(entry).find("Comment=mine"), std::string::npos);
 
     std::ofstream(entry, std::ios::app) << "Hidden=true\n";
     EXPECT_TRUE([registrar unregisterApplication:sorter]);

@@ -33,7 +33,7 @@ void store(id value, NSString* key, NSString* domain) {
 
 class SorterCheck : public RealSession {
 protected:
-    [[nodiscard]] std::string log() const { return textOf(logFile); }
+    [[nodiscard]] std::string log() const { return bytesOf(logFile); }
 
     /// Waits until that line is in the log.
     [[nodiscard]] testing::AssertionResult logs(const std::string& line) const {
@@ -62,7 +62,7 @@ TEST_F(SorterCheck, LogsItsIdentifierAndQuitsWithSuccess) {
 TEST_F(SorterCheck, QuitsWhenItIsAskedToWhileItStarts) {
     const pid_t sorter = execute(sorterExecutable);
     ASSERT_TRUE(eventually([&] {
-        return textOf(processes::folderOf(sorter) / "maps").find("libgnustep-cairo") != std::string::npos;
+        return bytesOf(processes::folderOf(sorter) / "maps").find("libgnustep-cairo") != std::string::npos;
     }));
 
     kill(sorter, SIGTERM);
@@ -146,7 +146,7 @@ TEST_F(SorterCheck, WritesItsLogWhereTheEnvironmentSays) {
     execute(sorterExecutable);
     unsetenv("QUARRYBOOK_SORTER_LOG");
 
-    EXPECT_TRUE(eventually([&] { return textOf(file).starts_with("started com.quarrybook.Sorter\n"); }));
+    EXPECT_TRUE(eventually([&] { return bytesOf(file).starts_with("started com.quarrybook.Sorter\n"); }));
     EXPECT_FALSE(fs::exists(logFile));
 }
 

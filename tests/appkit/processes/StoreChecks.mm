@@ -105,7 +105,7 @@ TEST_F(StoreCheck, TheHostsFileIsKeptWhenItIsNoPropertyList) {
 
     EXPECT_TRUE(userDefaults.synchronize());
     EXPECT_EQ(inFile(host), Value("another text"));
-    EXPECT_EQ(textOf(fileOf(host).string() + ".unreadable"), "no property list");
+    EXPECT_EQ(bytesOf(fileOf(host).string() + ".unreadable"), "no property list");
 }
 
 TEST_F(StoreCheck, AFlushWithoutAFolderFailsAtOnceAndLosesNothing) {

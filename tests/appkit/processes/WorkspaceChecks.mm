@@ -52,7 +52,7 @@ protected:
     }
 
     [[nodiscard]] static std::string sorterLog() {
-        return textOf(fs::path(std::getenv("XDG_STATE_HOME")) / "quarrybook" / "sorter.log");
+        return bytesOf(fs::path(std::getenv("XDG_STATE_HOME")) / "quarrybook" / "sorter.log");
     }
 
     /// Starts another application; observers that are added later know it.

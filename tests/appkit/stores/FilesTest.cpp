@@ -1,3 +1,4 @@
+#include "FileContents.h"
 #include "FullDisk.h"
 #include "Processes.h"
 #include "TemporaryFolder.h"
@@ -26,11 +27,6 @@ constexpr std::size_t limit = 1000;
 
 void put(const fs::path& file, const std::string& text) {
     std::ofstream(file, std::ios::binary) << text;
-}
-
-std::string textOf(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
 std::ptrdiff_t filesIn(const fs::path& folder) {
@@ -144,7 +140,7 @@ TEST_F(WholeFile, KeepsItsPermissionsAndItsOwner) {
     struct stat status {};
 
     ASSERT_EQ(stat(file.c_str(), &status), 0);
-    EXPECT_EQ(textOf(file), "new");
+    EXPECT_EQ(bytesOf(file), "new");
     EXPECT_EQ(status.st_mode & 07777, 0640U);
     EXPECT_EQ(status.st_uid, isRoot ? 1234 : geteuid());
     EXPECT_EQ(status.st_gid, isRoot ? 5678 : getegid());
@@ -163,7 +159,7 @@ TEST_F(WholeFile, OfAGroupThatTheUserIsNotInIsWrittenAndOpensToNobodyElse) {
     const std::string failure = asAnotherUser([&] { return writeWhole(file, "new").message(); });
 
     EXPECT_EQ(failure, "Success");
-    EXPECT_EQ(textOf(file), "new");
+    EXPECT_EQ(bytesOf(file), "new");
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0644));
 }
 
@@ -177,7 +173,7 @@ TEST_F(WholeFile, OfAnotherOwnerIsLeftAsItIs) {
     const std::string failure = asAnotherUser([&] { return writeWhole(file, "new").message(); });
 
     EXPECT_EQ(failure, "Operation not permitted");
-    EXPECT_EQ(textOf(file), "old");
+    EXPECT_EQ(bytesOf(file), "old");
     EXPECT_EQ(filesIn(folder), 1);
 }
 
@@ -191,7 +187,7 @@ TEST_F(WholeFile, IsWrittenWhereALinkLeads) {
 
     EXPECT_TRUE(fs::is_symlink(file));
     EXPECT_TRUE(fs::is_symlink(folder / "second"));
-    EXPECT_EQ(textOf(folder / "elsewhere/target"), "new");
+    EXPECT_EQ(bytesOf(folder / "elsewhere/target"), "new");
     EXPECT_EQ(filesIn(folder / "elsewhere"), 1);
 }
 
@@ -200,7 +196,7 @@ TEST_F(WholeFile, IsMadeWhereALinkLeadsToNothing) {
 
     EXPECT_FALSE(writeWhole(file, "new"));
 
-    EXPECT_EQ(textOf(temporary.path() / "target"), "new");
+    EXPECT_EQ(bytesOf(temporary.path() / "target"), "new");
 }
 
 TEST_F(WholeFile, StaysAsItIsWhenTheDiskIsFull) {
@@ -209,7 +205,7 @@ TEST_F(WholeFile, StaysAsItIsWhenTheDiskIsFull) {
 
     EXPECT_EQ(writeWhole(file, "new"), std::errc::file_too_large);
 
-    EXPECT_EQ(textOf(file), "old");
+    EXPECT_EQ(bytesOf(file), "old");
     EXPECT_EQ(filesIn(folder), 1);
 }
 

@@ -1,3 +1,4 @@
+#include "FileContents.h"
 #include "TemporaryFolder.h"
 #include "UnreadableLists.h"
 #include "appkit/stores/gnustep/StoredLists.h"
@@ -5,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <sys/stat.h>
 #include <vector>
@@ -32,11 +32,6 @@ std::vector<propertylists::Unreadable> hostileContents() {
 class HostileFile : public testing::Test {
 protected:
     void put(const std::string& bytes) const { std::ofstream(file, std::ios::binary) << bytes; }
-
-    [[nodiscard]] static std::string bytesOf(const fs::path& path) {
-        std::ifstream stream(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    }
 
     /// Expects that nothing of the file is used, nor anything written in its place.
     void expectToStayUnread(const char* what) {

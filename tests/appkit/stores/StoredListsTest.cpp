@@ -1,5 +1,6 @@
 #include "appkit/stores/gnustep/StoredLists.h"
 
+#include "FileContents.h"
 #include "FullDisk.h"
 #include "Processes.h"
 #include "TemporaryFolder.h"
@@ -9,7 +10,6 @@
 
 #include <csignal>
 #include <fstream>
-#include <iterator>
 #include <random>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -64,11 +64,6 @@ protected:
     void put(const std::string& bytes) const { std::ofstream(file, std::ios::binary) << bytes; }
 
     void put(const Dictionary& contents) const { put(propertylists::propertyListBytes(contents)); }
-
-    [[nodiscard]] static std::string bytesOf(const fs::path& path) {
-        std::ifstream stream(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    }
 
     [[nodiscard]] Value stored() const {
         const auto parsed = propertylists::parsedPropertyList(bytesOf(file));

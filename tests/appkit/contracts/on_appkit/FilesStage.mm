@@ -1,12 +1,12 @@
 #include "stages/FilesStage.h"
 
+#include "FileContents.h"
 #include "appkit/services/FileManager.h"
 #include "appkit/stores/PropertyLists.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 namespace qbsp::contracts {
 
@@ -43,11 +43,7 @@ public:
         fs::rename(away_, folder_);
     }
 
-    bool isXML(const std::string& path) const override {
-        std::ifstream stream(path);
-        const std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-        return text.starts_with("<?xml");
-    }
+    bool isXML(const std::string& path) const override { return bytesOf(path).starts_with("<?xml"); }
 
 private:
     const fs::path folder_ = fs::path(std::getenv("HOME")) / "test files";
