@@ -24,10 +24,7 @@ std::string appendingPathExtension(std::string_view path, std::string_view exten
 
 std::string deletingLastPathComponent(std::string_view path) {
     const std::string_view whole = withoutSlashesAtTheEnd(path);
-    const auto slash = whole.rfind('/');
-    if (slash == std::string_view::npos)
-        return {};
-    return std::string(withoutSlashesAtTheEnd(whole.substr(0, slash + 1)));
+    return std::string(withoutSlashesAtTheEnd(whole.substr(0, whole.rfind('/') + 1)));
 }
 
 std::string lastPathComponent(std::string_view path) {
