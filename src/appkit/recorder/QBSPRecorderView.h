@@ -36,17 +36,22 @@ struct QBSPRecorderParts;
 - (void)setDelegate:(id<QBSPRecorderViewDelegate>)delegate;
 - (id<QBSPRecorderViewDelegate>)delegate;
 
-/// The field that says why a key was refused, until the next key clears it. Two recorders may share one.
-/// Retained, because a recorder that is deallocated while it listens still clears it.
+/// The recorder's own field for what is wrong: why a key was refused, until the next key, or that the
+/// combination is in use elsewhere too. The tool tip then says the same. Retained, because a recorder that is
+/// deallocated still clears it.
 - (void)setReasonField:(NSTextField*)field;
 - (NSTextField*)reasonField;
+
+/// Asks the delegate whether the combination is in use elsewhere too, and shows its reason, until the next
+/// review or change, when it is.
+- (void)reviewCombination;
 
 /// The name that a screen reader gives the recorder.
 - (void)setAccessibilityLabel:(NSString*)label;
 - (NSString*)accessibilityLabel;
 
-/// What a screen reader says of the recorder: its role, its value ("Command Shift C"), and why it refused a
-/// key, or its tool tip when it refused none. GNUstep's views lack these methods, so they are declared here.
+/// What a screen reader says of the recorder: its role, its value ("Command Shift C"), and what its tool tip
+/// says. GNUstep's views lack these methods, so they are declared here.
 - (NSString*)accessibilityRole;
 - (NSString*)accessibilityRoleDescription;
 - (id)accessibilityValue;

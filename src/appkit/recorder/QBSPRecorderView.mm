@@ -98,6 +98,10 @@ struct QBSPRecorderParts {
     return _parts->listener.reasons().field();
 }
 
+- (void)reviewCombination {
+    _parts->logic.review();
+}
+
 #pragma mark - Focus
 
 - (BOOL)acceptsFirstResponder {
@@ -265,8 +269,7 @@ struct QBSPRecorderParts {
 }
 
 - (NSString*)accessibilityHelp {
-    NSString* reason = _parts->listener.reasons().shown();
-    return reason == nil ? [self toolTip] : reason;
+    return [self toolTip];
 }
 
 - (BOOL)accessibilityPerformPress {

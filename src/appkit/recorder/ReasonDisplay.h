@@ -6,31 +6,35 @@
 
 namespace qbsp::recorder {
 
-/// The field in which a recorder says why it refused a key. Other recorders may use the same field.
+/// Says what is wrong with a recorder, in a field of its own and as the recorder's tool tip: why it refused
+/// the last key or, when it refused none, that its combination is in use elsewhere too.
 class ReasonDisplay {
 public:
-    ReasonDisplay() = default;
+    /// The recorder must outlive the display.
+    explicit ReasonDisplay(NSView* recorder) : recorder_(recorder) {}
+
     ~ReasonDisplay();
     ReasonDisplay(const ReasonDisplay&) = delete;
     ReasonDisplay& operator=(const ReasonDisplay&) = delete;
 
-    /// Uses that field, which may be nil, from now on. Clears the previous field if it shows this recorder's
-    /// sentence.
+    /// The field, which may be nil, shows the reason from now on.
     void setField(NSTextField* field);
 
     [[nodiscard]] NSTextField* field() const { return field_.get(); }
 
-    void show(NSString* sentence);
-
-    /// Clears the field, unless it shows something else by now.
-    void hide();
-
-    /// The sentence that is shown; nil when there is none.
-    [[nodiscard]] NSString* shown() const { return shown_.get(); }
+    /// Each takes a sentence, or nil for none.
+    void setRefusal(NSString* sentence);
+    void setUseElsewhere(NSString* sentence);
 
 private:
+    void show();
+
+    NSView* recorder_;
     appkit::Retained<NSTextField*> field_;
+    appkit::Retained<NSString*> refusal_;
+    appkit::Retained<NSString*> useElsewhere_;
     appkit::Retained<NSString*> shown_;
+    appkit::Retained<NSString*> usualToolTip_; ///< what the tool tip said before a reason took its place
 };
 
 } // namespace qbsp::recorder

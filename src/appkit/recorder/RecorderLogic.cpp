@@ -23,7 +23,12 @@ RecorderLogic::RecorderLogic(RecorderListener& listener) : listener_(listener) {
 void RecorderLogic::setCombo(const KeyCombo& combo) {
     combo_ = normalized(combo);
     earlier_.reset();
+    listener_.usedElsewhere(false);
     listener_.lookChanged();
+}
+
+void RecorderLogic::review() {
+    listener_.usedElsewhere(holdsKey(combo_) && listener_.isTaken(combo_));
 }
 
 void RecorderLogic::arm() {
@@ -105,14 +110,15 @@ void RecorderLogic::offer(const KeyCombo& combo) {
 void RecorderLogic::accept(const KeyCombo& combo) {
     const KeyCombo before = combo_;
     const bool changed = combo != before;
-    if (changed)
-        earlier_ = before;
     combo_ = combo;
     armed_ = false;
     listener_.refusalPassed();
     listener_.lookChanged();
-    if (changed)
-        listener_.comboChanged(combo);
+    if (!changed)
+        return;
+    earlier_ = before;
+    listener_.usedElsewhere(false);
+    listener_.comboChanged(combo);
 }
 
 } // namespace qbsp::recorder

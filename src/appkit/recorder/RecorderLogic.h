@@ -43,6 +43,10 @@ public:
     /// The last refusal no longer applies.
     virtual void refusalPassed() = 0;
 
+    /// Whether the combination that the recorder has is in use elsewhere too. Called with true directly after
+    /// isTaken().
+    virtual void usedElsewhere(bool isUsed) = 0;
+
     /// The user recorded that combination, or cleared the recorder.
     virtual void comboChanged(const KeyCombo& combo) = 0;
 
@@ -62,6 +66,10 @@ public:
 
     /// Sets the combination without reporting it.
     void setCombo(const KeyCombo& combo);
+
+    /// Asks whether the combination that it has is in use elsewhere too, as two stored ones can be, and
+    /// reports the result. An empty one never is.
+    void review();
 
     /// Starts listening; does nothing when it already listens.
     void arm();

@@ -4,6 +4,9 @@
 
 @class QBSPRecorderView;
 
+/// Posted by a recorder after the user recorded a combination or cleared it, and its delegate was notified.
+extern NSString* const QBSPRecorderDidChangeNotification;
+
 /// Decides whether a recorder may take a combination, and is notified when the user changes it.
 @protocol QBSPRecorderViewDelegate
 

@@ -11,7 +11,7 @@ namespace qbsp::recorder {
 class ViewListener : public RecorderListener {
 public:
     /// The view must outlive the listener.
-    explicit ViewListener(QBSPRecorderView* view) : view_(view) {}
+    explicit ViewListener(QBSPRecorderView* view);
 
     /// Not retained. With nil, every combination is accepted and none is reported.
     void setDelegate(id<QBSPRecorderViewDelegate> delegate) { delegate_ = delegate; }
@@ -23,6 +23,7 @@ public:
     bool isTaken(const KeyCombo& combo) override;
     void refused(Refusal refusal) override;
     void refusalPassed() override;
+    void usedElsewhere(bool isUsed) override;
     void comboChanged(const KeyCombo& combo) override;
     void lookChanged() override;
 

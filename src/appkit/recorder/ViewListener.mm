@@ -2,7 +2,12 @@
 
 #include "appkit/recorder/RecorderTexts.h"
 
+NSString* const QBSPRecorderDidChangeNotification = @"QBSPRecorderDidChangeNotification";
+
 namespace qbsp::recorder {
+
+ViewListener::ViewListener(QBSPRecorderView* view)
+    : view_(view), reasons_(static_cast<NSView*>(static_cast<id>(view))) {}
 
 bool ViewListener::isTaken(const KeyCombo& combo) {
     NSString* reason = nil;
@@ -15,18 +20,24 @@ bool ViewListener::isTaken(const KeyCombo& combo) {
 }
 
 void ViewListener::refused(Refusal refusal) {
-    reasons_.show(refusalSentence(refusal, delegatesReason_.get()));
+    reasons_.setRefusal(refusalSentence(refusal, delegatesReason_.get()));
     NSBeep();
 }
 
 void ViewListener::refusalPassed() {
-    reasons_.hide();
+    reasons_.setRefusal(nil);
+}
+
+void ViewListener::usedElsewhere(bool isUsed) {
+    reasons_.setUseElsewhere(isUsed ? refusalSentence(Refusal::taken, delegatesReason_.get()) : nil);
 }
 
 void ViewListener::comboChanged(const KeyCombo& combo) {
     [delegate_ recorderView:view_
           keyComboDidChange:static_cast<NSInteger>(combo.code)
                       flags:static_cast<NSUInteger>(combo.flags)];
+    [[NSNotificationCenter defaultCenter] postNotificationName:QBSPRecorderDidChangeNotification
+                                                        object:view_];
 }
 
 void ViewListener::lookChanged() {

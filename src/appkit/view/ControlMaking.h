@@ -2,6 +2,7 @@
 
 #import "appkit/view/QBSPButton.h"
 #import "appkit/view/QBSPHideTable.h"
+#import "appkit/view/QBSPReasonField.h"
 
 #import <AppKit/AppKit.h>
 
@@ -12,8 +13,10 @@ namespace qbsp::appkit {
 /// A wrapping text field that the user cannot edit.
 [[nodiscard]] NSTextField* makeLabel(NSTextAlignment alignment);
 
-/// Makes the field such a text in a smaller font, aligned left.
-void makeRemark(NSTextField* field);
+/// Such a text in a smaller font, aligned left.
+[[nodiscard]] NSTextField* makeRemark();
+
+[[nodiscard]] QBSPReasonField* makeReasonField();
 
 [[nodiscard]] QBSPButton* makeCheckBox();
 [[nodiscard]] QBSPButton* makePushButton();

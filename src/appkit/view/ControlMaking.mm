@@ -36,8 +36,16 @@ NSTextField* makeLabel(NSTextAlignment alignment) {
     return label;
 }
 
-void makeRemark(NSTextField* field) {
-    makeText(field, NSLeftTextAlignment, remarkFont());
+NSTextField* makeRemark() {
+    NSTextField* remark = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
+    makeText(remark, NSLeftTextAlignment, remarkFont());
+    return remark;
+}
+
+QBSPReasonField* makeReasonField() {
+    QBSPReasonField* field = [[[QBSPReasonField alloc] initWithFrame:NSZeroRect] autorelease];
+    makeText(field, NSLeftTextAlignment, controlFont());
+    return field;
 }
 
 QBSPButton* makeCheckBox() {

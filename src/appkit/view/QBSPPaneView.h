@@ -14,7 +14,8 @@
 /// texts. The form scrolls where the host has no room for it.
 @interface QBSPPaneView : NSView <QBSPReasonLayout> {
     qbsp::appkit::ViewControls controls;
-    QBSPReasonField* reasonField;
+    QBSPReasonField* noteReasonField;
+    QBSPReasonField* clipReasonField;
     QBSPButton* addButton;
     NSScrollView* hideAppsScrollView;
     QBSPFormView* formView;
@@ -35,8 +36,8 @@
 /// coding finds it too, for hosts that know only names.
 - (NSView*)controlNamed:(NSString*)name;
 
-/// Must be called after texts were set or controls hidden. Lays out the form again, and gives each control
-/// its label's text as accessibility label.
+/// Must be called after texts or hot keys were set, or controls hidden. Lays out the form again, gives each
+/// control its label's text as accessibility label, and has the recorders say whether they are equal.
 - (void)contentsDidChange;
 
 /// Lays out the form again.

@@ -20,6 +20,7 @@ static const CGFloat recorderHeightPadding = 12;
 static const CGFloat minimumListHeightInRows = 4;
 static const CGFloat gap = 10;
 static const CGFloat groupGap = 18;
+static const CGFloat reasonGap = 4;
 
 static NSString* const addButtonName = @"addButton";
 
@@ -54,11 +55,13 @@ static void chooseFontOf(NSTextField* label) {
 @interface QBSPPaneView ()
 - (void)chooseFonts;
 - (void)makeControls;
+- (QBSPReasonField*)makeReasonFieldOf:(QBSPRecorderView*)recorder;
 - (void)makeForm;
 - (void)addControls;
 - (void)chainControls;
 - (void)setToolTips;
 - (CGFloat)minimumListHeight;
+- (void)reviewHotKeys;
 - (std::vector<NSView*>)controlsInTabOrder;
 @end
 
@@ -77,8 +80,10 @@ static void chooseFontOf(NSTextField* label) {
 }
 
 - (void)dealloc {
+    [[NSNotificationCenter defaultCenter] removeObserver:self];
     // A recorder that is deallocated clears the reason that it showed.
-    [reasonField setLayout:nil];
+    [noteReasonField setLayout:nil];
+    [clipReasonField setLayout:nil];
     [super dealloc];
 }
 
@@ -87,17 +92,24 @@ static void chooseFontOf(NSTextField* label) {
 - (void)makeControls {
     qbsp::forEachControl([](const char*, auto& control) { make(control); }, controls);
     controls.descriptionLabel = qbsp::appkit::makeLabel(NSLeftTextAlignment);
-    controls.attentionLabel = [[[NSTextField alloc] initWithFrame:NSZeroRect] autorelease];
-    qbsp::appkit::makeRemark(controls.attentionLabel);
+    controls.attentionLabel = qbsp::appkit::makeRemark();
     controls.showAtLoginCheckbox = qbsp::appkit::makeCheckBox();
     controls.visibilityButton = qbsp::appkit::makeCheckBox();
-    reasonField = [[[QBSPReasonField alloc] initWithFrame:NSZeroRect] autorelease];
-    qbsp::appkit::makeRemark(reasonField);
-    [reasonField setLayout:self];
-    [controls.noteHotKeyRecorder setReasonField:reasonField];
-    [controls.clipHotKeyRecorder setReasonField:reasonField];
+    noteReasonField = [self makeReasonFieldOf:controls.noteHotKeyRecorder];
+    clipReasonField = [self makeReasonFieldOf:controls.clipHotKeyRecorder];
     hideAppsScrollView = qbsp::appkit::makeScrollView(controls.hideAppsTable);
     addButton = qbsp::appkit::makePushButton();
+}
+
+- (QBSPReasonField*)makeReasonFieldOf:(QBSPRecorderView*)recorder {
+    QBSPReasonField* field = qbsp::appkit::makeReasonField();
+    [field setLayout:self];
+    [recorder setReasonField:field];
+    [[NSNotificationCenter defaultCenter] addObserver:self
+                                             selector:@selector(reviewHotKeys)
+                                                 name:QBSPRecorderDidChangeNotification
+                                               object:recorder];
+    return field;
 }
 
 - (void)makeForm {
@@ -108,8 +120,9 @@ static void chooseFontOf(NSTextField* label) {
     form->addRow({nil, {c.toggleLaunchButton, c.attentionLabel}, gap});
     form->addRow({c.visibilityLabel, {c.visibilityButton}, groupGap});
     form->addRow({c.takeNoteLabel, {c.noteHotKeyRecorder}, groupGap});
+    form->addRow({nil, {noteReasonField}, reasonGap, Stretch::width});
     form->addRow({c.copySelectionLabel, {c.clipHotKeyRecorder}, gap});
-    form->addRow({nil, {reasonField}, 4, Stretch::width});
+    form->addRow({nil, {clipReasonField}, reasonGap, Stretch::width});
     form->addRow(
         {c.hideAppLabel, {hideAppsScrollView}, groupGap, Stretch::widthAndHeight, [self minimumListHeight]});
     form->addRow({nil, {addButton, c.resetFullscreenSettingsButton}, gap});
@@ -182,10 +195,18 @@ static void chooseFontOf(NSTextField* label) {
         if (row.label != nil && row.stretch == Stretch::none)
             [static_cast<id>(row.controls.front()) setAccessibilityLabel:[row.label stringValue]];
     [controls.hideAppsTable setAccessibilityLabel:[controls.hideAppLabel stringValue]];
+    [self reviewHotKeys];
     [self layOutForm];
 }
 
-// The buttons and the field for reasons choose theirs with each text.
+// When one of two equal hot keys changes, the other is no longer in use elsewhere.
+- (void)reviewHotKeys {
+    for (QBSPRecorderView* recorder : {controls.noteHotKeyRecorder, controls.clipHotKeyRecorder})
+        if (![recorder isHidden])
+            [recorder reviewCombination];
+}
+
+// The buttons and the fields for reasons choose theirs with each text.
 - (void)chooseFonts {
     qbsp::forEachControl(
         [](const char*, NSView* control) {

@@ -1,6 +1,7 @@
 #import "appkit/view/TextMeasuring.h"
 
 #include "appkit/bridge/Retained.h"
+#import "appkit/view/QBSPReasonField.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,8 +28,10 @@ NSSize measure(NSString* text, NSFont* font, CGFloat width) {
     return [layout.get() usedRectForTextContainer:container.get()].size;
 }
 
-NSSize padded(NSSize text) {
-    return NSMakeSize(std::ceil(text.width) + cellPadding, std::ceil(text.height) + 2);
+CGFloat paddingOf(NSTextField* field) {
+    if (![field isKindOfClass:[QBSPReasonField class]])
+        return cellPadding;
+    return cellPadding + [static_cast<QBSPReasonField*>(field) signWidth];
 }
 
 } // namespace
@@ -36,7 +39,9 @@ NSSize padded(NSSize text) {
 // Measured here, because on some systems a cell's own size ignores wrapping.
 NSSize sizeOfWrappedText(NSTextField* field, CGFloat width) {
     NSString* text = [[field stringValue] length] == 0 ? @" " : [field stringValue];
-    return padded(measure(text, [field font], width - cellPadding));
+    const CGFloat padding = paddingOf(field);
+    const NSSize size = measure(text, [field font], width - padding);
+    return NSMakeSize(std::ceil(size.width) + padding, std::ceil(size.height) + 2);
 }
 
 CGFloat widthOfWidestWord(NSTextField* field) {

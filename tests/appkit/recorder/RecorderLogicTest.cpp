@@ -187,6 +187,56 @@ TEST_F(Recorder, RefusesToBringBackWhatIsTakenByNow) {
     EXPECT_EQ(listener.reported, std::vector{empty});
 }
 
+TEST_F(Recorder, SaysAtAReviewWhetherItsCombinationIsInUseElsewhereToo) {
+    logic.setCombo(commandA);
+    logic.review();
+    EXPECT_FALSE(listener.showsUseElsewhere);
+
+    listener.takenCombo = commandA;
+    logic.review();
+    EXPECT_TRUE(listener.showsUseElsewhere);
+
+    listener.takenCombo.reset();
+    logic.review();
+    EXPECT_FALSE(listener.showsUseElsewhere);
+}
+
+TEST_F(Recorder, NeverSaysThatTheEmptyCombinationIsInUseElsewhere) {
+    listener.takenCombo = empty;
+
+    logic.review();
+
+    EXPECT_FALSE(listener.showsUseElsewhere);
+    EXPECT_TRUE(listener.offered.empty());
+}
+
+TEST_F(Recorder, NoLongerSaysThatItsCombinationIsInUseElsewhereOnceItChanges) {
+    const auto beInUseElsewhere = [this] {
+        listener.takenCombo = commandA;
+        logic.setCombo(commandA);
+        logic.review();
+        return listener.showsUseElsewhere;
+    };
+
+    ASSERT_TRUE(beInUseElsewhere());
+    logic.setCombo(controlC);
+    EXPECT_FALSE(listener.showsUseElsewhere);
+
+    ASSERT_TRUE(beInUseElsewhere());
+    logic.clear();
+    EXPECT_FALSE(listener.showsUseElsewhere);
+}
+
+TEST_F(ArmedRecorder, StillSaysThatItsCombinationIsInUseElsewhereWhenRecordingIsCancelled) {
+    listener.takenCombo = commandA;
+    logic.review();
+
+    press(keyC);
+    press(keys::escape);
+
+    EXPECT_TRUE(listener.showsUseElsewhere);
+}
+
 TEST_F(Recorder, HasNothingToBringBackBeforeAChangeAndWhileItListens) {
     logic.setCombo(commandA);
     logic.undo();

@@ -13,6 +13,7 @@ struct RecordingListener : RecorderListener {
     std::vector<KeyCombo> reported;
     std::optional<Refusal> shownRefusal;
     std::optional<KeyCombo> takenCombo;
+    bool showsUseElsewhere = false;
 
     bool isTaken(const KeyCombo& combo) override {
         offered.push_back(combo);
@@ -22,6 +23,8 @@ struct RecordingListener : RecorderListener {
     void refused(Refusal refusal) override { shownRefusal = refusal; }
 
     void refusalPassed() override { shownRefusal.reset(); }
+
+    void usedElsewhere(bool isUsed) override { showsUseElsewhere = isUsed; }
 
     void comboChanged(const KeyCombo& combo) override { reported.push_back(combo); }
 

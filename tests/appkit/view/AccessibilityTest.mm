@@ -31,6 +31,19 @@ std::string text(id string) {
     return string == nil ? "" : [string UTF8String];
 }
 
+NSEvent* pressOfKeyC() {
+    return [NSEvent keyEventWithType:NSKeyDown
+                            location:NSZeroPoint
+                       modifierFlags:0
+                           timestamp:0
+                        windowNumber:0
+                             context:nil
+                          characters:@"c"
+         charactersIgnoringModifiers:@"c"
+                           isARepeat:NO
+                             keyCode:54];
+}
+
 std::string valueChanged() {
     return text(NSAccessibilityValueChangedNotification);
 }
@@ -134,6 +147,22 @@ TEST_F(Accessibility, PressesNoName) {
     EXPECT_FALSE([cell(0, 2) accessibilityPerformPress]);
 
     EXPECT_FALSE(flag(2));
+}
+
+TEST_F(Accessibility, AnnouncesWhyARecorderRefusedAKey) {
+    QBSPRecorderView* const recorder = controls().noteHotKeyRecorder;
+    auto* const field = static_cast<QBSPReasonField*>([recorder reasonField]);
+    focus(recorder);
+    [recorder accessibilityPerformPress];
+    announcements().clear();
+
+    [recorder keyDown:pressOfKeyC()];
+
+    EXPECT_TRUE(announced(recorder));
+    EXPECT_TRUE(announced(field));
+    EXPECT_EQ(text([field accessibilityRole]), text(NSAccessibilityStaticTextRole));
+    EXPECT_NE(text([field accessibilityValue]), "");
+    EXPECT_EQ(text([recorder accessibilityHelp]), text([field accessibilityValue]));
 }
 
 TEST_F(Accessibility, AnnouncesWhatARecorderHasRecorded) {

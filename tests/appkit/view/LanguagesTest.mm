@@ -35,7 +35,8 @@ protected:
             NSTableColumn* column = [columns objectAtIndex:index];
             EXPECT_GE([column width], [[column headerCell] cellSize].width);
         }
-        [[controls().noteHotKeyRecorder reasonField] setStringValue:translate(longestReason)];
+        for (QBSPRecorderView* recorder : {controls().noteHotKeyRecorder, controls().clipHotKeyRecorder})
+            [[recorder reasonField] setStringValue:translate(longestReason)];
         expectNothingCutOrCovered();
     }
 

@@ -17,6 +17,11 @@ NSString* const longestReason =
 
 constexpr CGFloat fontSizes[] = {9, 12, 15, 18, 21, 24};
 
+bool isDark(NSBitmapImageRep* bitmap, NSInteger column, NSInteger row) {
+    return [[[bitmap colorAtX:column
+                            y:row] colorUsingColorSpaceName:NSCalibratedRGBColorSpace] redComponent] < 0.2;
+}
+
 class Layout : public LaidOutPane {
 protected:
     /// The lowest row of the view's pixels, from its top, that has the text's colour in the columns from that
@@ -25,8 +30,7 @@ protected:
         NSBitmapImageRep* const bitmap = [NSBitmapImageRep imageRepWithData:drawnAnew(inkedView)];
         for (NSInteger row = [bitmap pixelsHigh] - 1; row >= 0; --row)
             for (NSInteger column = firstColumn; column < [bitmap pixelsWide]; ++column)
-                if ([[[bitmap colorAtX:column y:row] colorUsingColorSpaceName:NSCalibratedRGBColorSpace]
-                        redComponent] < 0.2)
+                if (isDark(bitmap, column, row))
                     return row;
         return -1;
     }
@@ -40,7 +44,7 @@ protected:
 } // namespace
 
 TEST_F(Layout, HasRoomForTheWholeReasonWhileThereIsOne) {
-    NSTextField* const field = [controls().noteHotKeyRecorder reasonField];
+    NSTextField* const field = [controls().clipHotKeyRecorder reasonField];
     const NSRect before = visiblePart(list());
     const NSRect recorder = visiblePart(controls().clipHotKeyRecorder);
 
@@ -55,6 +59,34 @@ TEST_F(Layout, HasRoomForTheWholeReasonWhileThereIsOne) {
     [field setStringValue:@""];
 
     EXPECT_TRUE(NSEqualRects(before, visiblePart(list())));
+}
+
+TEST_F(Layout, ShowsTheReasonBelowTheRecorderThatItIsAbout) {
+    for (QBSPRecorderView* const recorder : {controls().noteHotKeyRecorder, controls().clipHotKeyRecorder}) {
+        NSTextField* const field = [recorder reasonField];
+        [field setStringValue:longestReason];
+
+        const NSRect frame = visiblePart(recorder);
+        EXPECT_EQ(NSMinX([field frame]), NSMinX(frame));
+        EXPECT_EQ(NSMinY([field frame]), NSMaxY(frame) + 4);
+        expectNothingCutOrCovered();
+        [field setStringValue:@""];
+    }
+}
+
+TEST_F(Layout, MarksTheReasonWithASignThatIsNotOnlyAColor) {
+    QBSPReasonField* const field = static_cast<QBSPReasonField*>([controls().noteHotKeyRecorder reasonField]);
+    [field setStringValue:@"."];
+
+    const auto line = static_cast<NSInteger>(NSHeight([field bounds]));
+    NSBitmapImageRep* const bitmap = [NSBitmapImageRep imageRepWithData:shown(field)];
+    int inkInTop = 0;
+    int inkInBottom = 0;
+    for (NSInteger row = 0; row < line; ++row)
+        for (NSInteger column = 0; column < static_cast<NSInteger>([field signWidth]); ++column)
+            (row < line / 2 ? inkInTop : inkInBottom) += isDark(bitmap, column, row);
+    EXPECT_GT(inkInTop, 10);
+    EXPECT_GT(inkInBottom, inkInTop) << "a triangle should be wider at its foot";
 }
 
 TEST_F(Layout, HasOneLeftEdgeAndMarginsOfTwentyPoints) {

@@ -27,14 +27,15 @@ struct DelegateCalls {
 - (id)initWithCalls:(qbsp::recorder::DelegateCalls*)calls;
 @end
 
-/// A window with two recorders, a text field, a field for reasons and a button that Return presses. It counts
-/// the events that it has handled.
+/// A window with two recorders, a text field, two fields for reasons and a button that Return presses. It
+/// counts the events that it has handled.
 @interface RecorderWindow : NSWindow {
 @public
     QBSPRecorderView* first;
     QBSPRecorderView* second;
     NSTextField* textField;
     NSTextField* reasonField;
+    NSTextField* secondReasonField;
     int keyUps;
     int keyDowns;
     int mouseDowns;

@@ -57,18 +57,20 @@ bool isModifierKey(unsigned keyCode) {
     first = [[[QBSPRecorderView alloc] initWithFrame:NSMakeRect(60, 160, 200, 26)] autorelease];
     second = [[[QBSPRecorderView alloc] initWithFrame:NSMakeRect(60, 125, 200, 26)] autorelease];
     textField = [[[NSTextField alloc] initWithFrame:NSMakeRect(60, 90, 200, 22)] autorelease];
-    reasonField = [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 50, 300, 30)] autorelease];
+    reasonField = [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 65, 300, 22)] autorelease];
+    secondReasonField = [[[NSTextField alloc] initWithFrame:NSMakeRect(10, 40, 300, 22)] autorelease];
     NSButton* button = [[[NSButton alloc] initWithFrame:NSMakeRect(60, 10, 80, 26)] autorelease];
     [reasonField setEditable:NO];
+    [secondReasonField setEditable:NO];
     [button setKeyEquivalent:@"\r"];
     [button setTarget:self];
     [button setAction:@selector(act:)];
 
-    NSView* const all[] = {first, second, textField, reasonField, button};
+    NSView* const all[] = {first, second, textField, reasonField, secondReasonField, button};
     for (NSView* view : all)
         [[self contentView] addSubview:view];
     [first setReasonField:reasonField];
-    [second setReasonField:reasonField];
+    [second setReasonField:secondReasonField];
     [first setNextKeyView:second];
     [second setNextKeyView:textField];
     [textField setNextKeyView:first];

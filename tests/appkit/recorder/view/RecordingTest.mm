@@ -251,12 +251,45 @@ TEST_F(RecorderView, AScreenReaderGetsTheTextsOfAnEmptyAndOfAListeningRecorder) 
     EXPECT_EQ(text([first accessibilityValue]), "Type shortcut");
 }
 
-TEST_F(RecorderView, AScreenReaderGetsTheReasonOfARefusal) {
+TEST_F(RecorderView, TheToolTipAndAScreenReadersHelpAreTheReasonWhileThereIsOne) {
+    [first setToolTip:@"Click, then press the keys."];
+    armFirst();
+
+    press("c");
+    EXPECT_NE(reason(), "");
+    EXPECT_EQ(text([first toolTip]), reason());
+    EXPECT_EQ(text([first accessibilityHelp]), reason());
+    EXPECT_EQ(text([second accessibilityHelp]), "");
+
+    press("Escape");
+    EXPECT_EQ(text([first accessibilityHelp]), "Click, then press the keys.");
+}
+
+TEST_F(RecorderView, TheReasonStandsInTheRecordersOwnField) {
     armFirst();
 
     press("c");
 
-    EXPECT_EQ(text([first accessibilityHelp]), reason());
+    EXPECT_NE(reason(), "");
+    EXPECT_EQ(text([window->secondReasonField stringValue]), "");
+}
+
+TEST_F(RecorderView, SaysThatItsCombinationIsInUseElsewhereUntilItChanges) {
+    delegateCalls.taken = commandA;
+    [first setKeyCode:keyA flags:modifiers::command];
+    EXPECT_EQ(reason(), "");
+
+    [first reviewCombination];
+    EXPECT_EQ(reason(), "This combination is used elsewhere.");
+
+    armFirst();
+    press("c");
+    EXPECT_EQ(reason(), "Hold Control, Option (Alt) or Command (Super) together with this key.");
+    press("Escape");
+    EXPECT_EQ(reason(), "This combination is used elsewhere.");
+
+    [first accessibilityPerformDelete];
+    EXPECT_EQ(reason(), "");
 }
 
 } // namespace qbsp::recorder
