@@ -2,31 +2,18 @@
 
 #include "appkit/recorder/KeyNames.h"
 
-#include <array>
-#include <span>
 #include <string_view>
 
 namespace qbsp::recorder {
 
 namespace {
 
-struct ModifierText {
-    CocoaFlags flag;
-    std::string_view text;
-};
-
-// Symbols are in the order of the Mac's menus; in words, the strongest modifier comes first.
-constexpr std::array symbols{ModifierText{modifiers::control, "⌃"}, ModifierText{modifiers::option, "⌥"},
-                             ModifierText{modifiers::shift, "⇧"}, ModifierText{modifiers::command, "⌘"}};
-constexpr std::array words{
-    ModifierText{modifiers::command, "Command "}, ModifierText{modifiers::option, "Option "},
-    ModifierText{modifiers::control, "Control "}, ModifierText{modifiers::shift, "Shift "}};
-
-std::string modifierTexts(CocoaFlags flags, std::span<const ModifierText> texts) {
+/// Their names, each with the joint behind it.
+std::string modifierTexts(CocoaFlags flags, const Notation& notation) {
     std::string result;
-    for (const ModifierText& modifier : texts)
+    for (const Notation::Modifier& modifier : notation.modifiers)
         if ((flags & modifier.flag) != 0)
-            result += modifier.text;
+            result.append(modifier.name).append(notation.joint);
     return result;
 }
 
@@ -45,16 +32,14 @@ std::string keyText(VirtualKey key, std::string_view KeyName::*kind, const Layou
 
 } // namespace
 
-std::string comboInSymbols(const KeyCombo& combo, const LayoutLabel& layoutLabel) {
+std::string comboText(const KeyCombo& combo, const Notation& notation, const LayoutLabel& layoutLabel) {
     if (!holdsKey(combo))
         return {};
-    return modifierTexts(combo.flags, symbols) + keyText(combo.code, &KeyName::symbol, layoutLabel);
+    return modifierTexts(combo.flags, notation) + keyText(combo.code, notation.key, layoutLabel);
 }
 
-std::string comboInWords(const KeyCombo& combo, const LayoutLabel& layoutLabel) {
-    if (!holdsKey(combo))
-        return {};
-    return modifierTexts(combo.flags, words) + keyText(combo.code, &KeyName::word, layoutLabel);
+std::string heldText(CocoaFlags held, const Notation& notation) {
+    return modifierTexts(held, notation) + "…";
 }
 
 } // namespace qbsp::recorder

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "appkit/recorder/Notation.h"
 #include "appkit/recorder/VirtualKeys.h"
 
 #include <functional>
@@ -10,10 +11,11 @@ namespace qbsp::recorder {
 /// What the current layout prints on a key cap; empty where it prints nothing or is not available.
 using LayoutLabel = std::function<std::string(VirtualKey)>;
 
-/// The combination as it is shown: "⌃⇧C". Empty for the empty combination.
-[[nodiscard]] std::string comboInSymbols(const KeyCombo& combo, const LayoutLabel& layoutLabel);
+/// The combination: "⌃⇧C", "Ctrl+Shift+C". Empty for the empty combination.
+[[nodiscard]] std::string comboText(const KeyCombo& combo, const Notation& notation,
+                                    const LayoutLabel& layoutLabel);
 
-/// The combination as it is read out: "Control Shift C". Empty for the empty combination.
-[[nodiscard]] std::string comboInWords(const KeyCombo& combo, const LayoutLabel& layoutLabel);
+/// Modifiers that wait for a key: "⌃⇧…", "Ctrl+Shift+…".
+[[nodiscard]] std::string heldText(CocoaFlags held, const Notation& notation);
 
 } // namespace qbsp::recorder

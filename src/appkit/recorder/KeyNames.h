@@ -6,10 +6,11 @@
 
 namespace qbsp::recorder {
 
-/// How a key is shown, and how it is read out.
+/// How a key is named: by the Mac's symbol, in the Mac's words, and as a PC's keyboard names it.
 struct KeyName {
     std::string_view symbol;
     std::string_view word;
+    std::string_view onPC = word;
 };
 
 /// The name of a key that has the same name in every layout: Return, F5, a keypad's 5. Empty for others.

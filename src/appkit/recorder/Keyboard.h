@@ -9,6 +9,14 @@
 
 namespace qbsp::recorder {
 
+/// Is notified when the keyboard has another layout, so that its labels may be others.
+class LayoutListener {
+public:
+    virtual ~LayoutListener() = default;
+
+    virtual void layoutChanged() = 0;
+};
+
 /// The system's keyboard in the Mac's terms.
 class Keyboard {
 public:
@@ -20,6 +28,9 @@ public:
     /// Must be called with every key-down, key-up and flags-changed event that is not passed to press().
     virtual void observe(NSEvent* event) = 0;
 
+    /// The modifiers that are held at the event, which was passed to press() or observe() before.
+    [[nodiscard]] virtual CocoaFlags heldModifiers(NSEvent* event) const = 0;
+
     /// Forgets which keys are held down. Must be called when keys may have been released without an event.
     virtual void forgetHeldKeys() = 0;
 
@@ -27,7 +38,7 @@ public:
     [[nodiscard]] virtual std::string label(VirtualKey key) = 0;
 };
 
-/// The keyboard of the system that this is built for.
-[[nodiscard]] std::unique_ptr<Keyboard> makeKeyboard();
+/// The keyboard of the system that this is built for. The listener must outlive it.
+[[nodiscard]] std::unique_ptr<Keyboard> makeKeyboard(LayoutListener& listener);
 
 } // namespace qbsp::recorder

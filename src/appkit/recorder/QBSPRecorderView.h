@@ -29,7 +29,8 @@ struct QBSPRecorderParts;
 /// YES while the next combination would be recorded.
 - (BOOL)isListening;
 
-/// The text that is shown: the combination in symbols, or a prompt.
+/// The text that is shown: the combination as this system writes it, the modifiers that are held while it
+/// listens, or a prompt.
 - (NSString*)stringValue;
 
 /// Not retained. Without a delegate, every combination is accepted and none is reported.
@@ -50,8 +51,8 @@ struct QBSPRecorderParts;
 - (void)setAccessibilityLabel:(NSString*)label;
 - (NSString*)accessibilityLabel;
 
-/// What a screen reader says of the recorder: its role, its value ("Command Shift C"), and what its tool tip
-/// says. GNUstep's views lack these methods, so they are declared here.
+/// What a screen reader says of the recorder: its role, its value in words ("Control Shift C"), and what its
+/// tool tip says. GNUstep's views lack these methods, so they are declared here.
 - (NSString*)accessibilityRole;
 - (NSString*)accessibilityRoleDescription;
 - (id)accessibilityValue;

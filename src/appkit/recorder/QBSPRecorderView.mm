@@ -1,14 +1,17 @@
 #import "appkit/recorder/QBSPRecorderView.h"
 
 #include "appkit/bridge/Retained.h"
+#include "appkit/bridge/Strings.h"
 #include "appkit/recorder/KeyComboText.h"
 #include "appkit/recorder/Keyboard.h"
 #include "appkit/recorder/RecorderDrawing.h"
 #include "appkit/recorder/RecorderLogic.h"
 #include "appkit/recorder/RecorderTexts.h"
+#include "appkit/recorder/SystemNotation.h"
 #include "appkit/recorder/ViewListener.h"
 
 using namespace qbsp::recorder;
+using qbsp::appkit::nsString;
 using qbsp::appkit::Retained;
 
 static bool printsZ(NSEvent* event) {
@@ -24,7 +27,8 @@ static bool isCommand(const KeyPress& press) {
 - (BOOL)handleKeyDown:(NSEvent*)event;
 - (BOOL)undoesAt:(NSEvent*)event;
 - (BOOL)isOnClearButton:(NSEvent*)event;
-- (NSString*)comboText:(std::string (*)(const KeyCombo&, const LayoutLabel&))inForm;
+- (NSString*)textIn:(const Notation&)notation empty:(NSString*)empty;
+- (void)followModifiers:(NSEvent*)event;
 @end
 
 struct QBSPRecorderParts {
@@ -32,7 +36,7 @@ struct QBSPRecorderParts {
 
     ViewListener listener;
     RecorderLogic logic{listener};
-    std::unique_ptr<Keyboard> keyboard = makeKeyboard();
+    std::unique_ptr<Keyboard> keyboard = makeKeyboard(listener);
     Retained<NSString*> accessibilityLabel;
     bool isClearPressed = false;
 
@@ -75,11 +79,17 @@ struct QBSPRecorderParts {
 }
 
 - (NSString*)stringValue {
-    if (_parts->logic.isArmed())
+    return [self textIn:shownNotation() empty:emptyText()];
+}
+
+- (NSString*)textIn:(const Notation&)notation empty:(NSString*)empty {
+    const RecorderLogic& logic = _parts->logic;
+    if (logic.heldModifiers() != 0)
+        return nsString(heldText(logic.heldModifiers(), notation));
+    if (logic.isArmed())
         return listeningText();
-    if (!holdsKey(_parts->logic.combo()))
-        return emptyText();
-    return canDrawSymbols() ? [self comboText:comboInSymbols] : [self comboText:comboInWords];
+    return holdsKey(logic.combo()) ? nsString(comboText(logic.combo(), notation, _parts->layoutLabel()))
+                                   : empty;
 }
 
 - (void)setDelegate:(id<QBSPRecorderViewDelegate>)delegate {
@@ -137,7 +147,7 @@ struct QBSPRecorderParts {
 }
 
 - (void)windowDidBecomeKey:(NSNotification*)__attribute__((unused))notification {
-    // The focus is shown again, and the keyboard layout may have changed.
+    // The focus is shown again.
     [self setNeedsDisplay:YES];
 }
 
@@ -178,18 +188,26 @@ struct QBSPRecorderParts {
 
 - (void)keyUp:(NSEvent*)event {
     _parts->keyboard->observe(event);
+    [self followModifiers:event];
     [super keyUp:event];
 }
 
 - (void)flagsChanged:(NSEvent*)event {
     _parts->keyboard->observe(event);
+    [self followModifiers:event];
     [super flagsChanged:event];
+}
+
+- (void)followModifiers:(NSEvent*)event {
+    _parts->logic.setHeldModifiers(_parts->keyboard->heldModifiers(event));
 }
 
 - (BOOL)handleKeyDown:(NSEvent*)event {
     const std::optional<KeyPress> press = _parts->keyboard->press(event);
-    if (!press)
+    if (!press) {
+        [self followModifiers:event];
         return YES;
+    }
     if (![self isListening] && isCommand(*press) && printsZ(event)) {
         [self undo:nil];
         return YES;
@@ -235,11 +253,6 @@ struct QBSPRecorderParts {
                   .isClearPressed = _parts->isClearPressed});
 }
 
-- (NSString*)comboText:(std::string (*)(const KeyCombo&, const LayoutLabel&))inForm {
-    const std::string text = inForm(_parts->logic.combo(), _parts->layoutLabel());
-    return [NSString stringWithUTF8String:text.c_str()];
-}
-
 #pragma mark - Accessibility
 
 - (BOOL)isAccessibilityElement {
@@ -263,9 +276,7 @@ struct QBSPRecorderParts {
 }
 
 - (id)accessibilityValue {
-    if (_parts->logic.isArmed())
-        return listeningText();
-    return holdsKey(_parts->logic.combo()) ? [self comboText:comboInWords] : emptyValueText();
+    return [self textIn:spokenNotation() empty:emptyValueText()];
 }
 
 - (NSString*)accessibilityHelp {

@@ -16,9 +16,6 @@ struct RecorderLook {
 /// Where the clear button lies within those bounds.
 [[nodiscard]] NSRect clearButtonRect(NSRect bounds);
 
-/// True when a font on this system has the symbols of all four modifiers.
-[[nodiscard]] bool canDrawSymbols();
-
 /// Draws into the current graphics context.
 void drawRecorder(const RecorderLook& look);
 

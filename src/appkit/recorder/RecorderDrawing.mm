@@ -3,7 +3,6 @@
 #include "appkit/drawing/Fonts.h"
 
 #include <algorithm>
-#include <array>
 
 namespace qbsp::recorder {
 
@@ -12,19 +11,6 @@ namespace {
 constexpr CGFloat cornerRadius = 5;
 constexpr CGFloat clearButtonShare = 14.0 / 26.0;
 constexpr CGFloat clearButtonMargin = 7;
-
-/// The system font where it has the modifiers' symbols, as on the Mac; otherwise a font that does, or nil
-/// when there is none.
-NSFont* symbolFont() {
-    constexpr std::array<unichar, 4> symbols{0x2318, 0x2325, 0x2303, 0x21E7};
-    return appkit::fontWithCharacters([NSString stringWithCharacters:symbols.data() length:symbols.size()],
-                                      appkit::controlFont());
-}
-
-NSFont* fontFor(NSString* text) {
-    NSFont* font = symbolFont();
-    return appkit::fontForText(text, font != nil ? font : appkit::controlFont());
-}
 
 NSBezierPath* roundedRect(NSRect rect) {
     return [NSBezierPath bezierPathWithRoundedRect:rect xRadius:cornerRadius yRadius:cornerRadius];
@@ -45,8 +31,9 @@ NSDictionary* textAttributes(const RecorderLook& look) {
     [centred setAlignment:NSCenterTextAlignment];
     [centred setLineBreakMode:NSLineBreakByTruncatingTail];
     const bool isPrompt = look.isEmpty && !look.isListening;
+    NSFont* font = appkit::fontForText(look.text, appkit::controlFont());
     NSColor* color = isPrompt ? [NSColor disabledControlTextColor] : [NSColor textColor];
-    return [NSDictionary dictionaryWithObjectsAndKeys:fontFor(look.text), NSFontAttributeName, color,
+    return [NSDictionary dictionaryWithObjectsAndKeys:font, NSFontAttributeName, color,
                                                       NSForegroundColorAttributeName, centred,
                                                       NSParagraphStyleAttributeName, nil];
 }
@@ -87,10 +74,6 @@ void drawClearButton(const RecorderLook& look) {
 NSRect clearButtonRect(NSRect bounds) {
     const CGFloat size = NSHeight(bounds) * clearButtonShare;
     return NSMakeRect(NSMaxX(bounds) - clearButtonMargin - size, NSMidY(bounds) - size / 2, size, size);
-}
-
-bool canDrawSymbols() {
-    return symbolFont() != nil;
 }
 
 void drawRecorder(const RecorderLook& look) {

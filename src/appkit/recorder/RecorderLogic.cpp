@@ -41,9 +41,14 @@ void RecorderLogic::arm() {
 void RecorderLogic::disarm() {
     if (!armed_)
         return;
-    armed_ = false;
+    endListening();
     listener_.refusalPassed();
     listener_.lookChanged();
+}
+
+void RecorderLogic::endListening() {
+    armed_ = false;
+    held_ = 0;
 }
 
 void RecorderLogic::clear() {
@@ -56,6 +61,14 @@ void RecorderLogic::undo() {
     const KeyCombo wanted = *earlier_;
     listener_.refusalPassed();
     holdsKey(wanted) ? offer(wanted) : clear();
+}
+
+void RecorderLogic::setHeldModifiers(CocoaFlags held) {
+    const CocoaFlags shown = armed_ ? held & modifiers::all : 0;
+    if (shown == held_)
+        return;
+    held_ = shown;
+    listener_.lookChanged();
 }
 
 KeyOutcome RecorderLogic::keyPressed(const KeyPress& press) {
@@ -111,7 +124,7 @@ void RecorderLogic::accept(const KeyCombo& combo) {
     const KeyCombo before = combo_;
     const bool changed = combo != before;
     combo_ = combo;
-    armed_ = false;
+    endListening();
     listener_.refusalPassed();
     listener_.lookChanged();
     if (!changed)

@@ -50,7 +50,7 @@ public:
     /// The user recorded that combination, or cleared the recorder.
     virtual void comboChanged(const KeyCombo& combo) = 0;
 
-    /// The recorder must be redrawn: its combination, or whether it listens, may have changed.
+    /// The recorder must be redrawn: its combination, whether it listens, or what is held may have changed.
     virtual void lookChanged() = 0;
 };
 
@@ -85,6 +85,12 @@ public:
     /// combination that is in use by now is refused.
     void undo();
 
+    /// While it listens, those modifiers wait for a key; takes 0 when none is held.
+    void setHeldModifiers(CocoaFlags held);
+
+    /// 0 while it does not listen.
+    [[nodiscard]] CocoaFlags heldModifiers() const { return held_; }
+
     /// Acts on the key, and returns what is left for the caller to do.
     [[nodiscard]] KeyOutcome keyPressed(const KeyPress& press);
 
@@ -92,12 +98,14 @@ private:
     [[nodiscard]] KeyOutcome plainKeyPressed(VirtualKey key);
     [[nodiscard]] KeyOutcome keyPressedWhileArmed(const KeyPress& press);
     [[nodiscard]] KeyOutcome moveFocus(KeyOutcome direction);
+    void endListening();
     void offer(const KeyCombo& combo);
     void accept(const KeyCombo& combo);
 
     RecorderListener& listener_;
     KeyCombo combo_;
     std::optional<KeyCombo> earlier_; ///< what the user's last change replaced
+    CocoaFlags held_ = 0;
     bool armed_ = false;
 };
 

@@ -1,20 +1,28 @@
 #include "appkit/recorder/RecorderTexts.h"
 
 #include "appkit/bridge/LocalizedTexts.h"
+#include "appkit/bridge/Strings.h"
+#include "appkit/recorder/SystemNotation.h"
 
 namespace qbsp::recorder {
 
 using appkit::localized;
+using appkit::nsString;
 
 namespace {
+
+NSString* withModifierNames(NSString* format) {
+    const ModifierNames names = modifierNames();
+    return [NSString
+        stringWithFormat:format, nsString(names.control), nsString(names.option), nsString(names.command)];
+}
 
 NSString* ownSentence(Refusal refusal) {
     switch (refusal) {
     case Refusal::plainKey:
-        return localized(@"Hold Control, Option (Alt) or Command (Super) together with this key.");
+        return withModifierNames(localized(@"Hold %@, %@ or %@ together with this key."));
     case Refusal::shiftAlone:
-        return localized(
-            @"Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well.");
+        return withModifierNames(localized(@"Shift alone is not enough: hold %@, %@ or %@ as well."));
     case Refusal::unknownKey:
         return localized(@"This key cannot be part of a shortcut.");
     case Refusal::taken:

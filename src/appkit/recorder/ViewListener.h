@@ -1,5 +1,6 @@
 #pragma once
 
+#include "appkit/recorder/Keyboard.h"
 #include "appkit/recorder/ReasonDisplay.h"
 #include "appkit/recorder/RecorderLogic.h"
 
@@ -8,7 +9,7 @@
 namespace qbsp::recorder {
 
 /// Forwards the logic's calls to the view's delegate, its reason field and the screen.
-class ViewListener : public RecorderListener {
+class ViewListener : public RecorderListener, public LayoutListener {
 public:
     /// The view must outlive the listener.
     explicit ViewListener(QBSPRecorderView* view);
@@ -26,6 +27,8 @@ public:
     void usedElsewhere(bool isUsed) override;
     void comboChanged(const KeyCombo& combo) override;
     void lookChanged() override;
+
+    void layoutChanged() override { lookChanged(); }
 
 private:
     QBSPRecorderView* view_;

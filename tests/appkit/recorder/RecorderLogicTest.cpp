@@ -263,6 +263,28 @@ TEST_F(Recorder, DoesNotReportThatAnEmptyRecorderWasCleared) {
     EXPECT_FALSE(logic.isArmed());
 }
 
+TEST_F(ArmedRecorder, KnowsWhichModifiersWaitForAKey) {
+    logic.setHeldModifiers(modifiers::control | 0x10000);
+    EXPECT_EQ(logic.heldModifiers(), modifiers::control);
+
+    logic.setHeldModifiers(0);
+    EXPECT_EQ(logic.heldModifiers(), 0U);
+}
+
+TEST_F(ArmedRecorder, KnowsOfNoHeldModifiersOnceItNoLongerListens) {
+    logic.setHeldModifiers(modifiers::control);
+    press(controlC);
+    EXPECT_EQ(logic.heldModifiers(), 0U);
+
+    logic.arm();
+    logic.setHeldModifiers(modifiers::control);
+    logic.disarm();
+    EXPECT_EQ(logic.heldModifiers(), 0U);
+
+    logic.setHeldModifiers(modifiers::control);
+    EXPECT_EQ(logic.heldModifiers(), 0U);
+}
+
 TEST_F(ArmedRecorder, MovesOnAtTab) {
     EXPECT_EQ(press(keys::tab), KeyOutcome::nextView);
 

@@ -29,8 +29,8 @@ KeyCombo loaded(const StoredCombo& combo) {
     return StoredHotKey::read(combo.code, combo.modifiers).keyCombo();
 }
 
-std::string shown(const KeyCombo& combo) {
-    return comboInSymbols(combo, [](VirtualKey) { return std::string(); });
+std::string shown(const KeyCombo& combo, const Notation& notation = macSymbols()) {
+    return comboText(combo, notation, [](VirtualKey) { return std::string(); });
 }
 
 /// Every key with every set of modifiers.
@@ -86,9 +86,15 @@ TEST(StoredForm, EveryCombinationIsShownByTheProgramAsItWasStored) {
 }
 
 TEST(StoredForm, NoTwoCombinationsLookTheSame) {
-    std::set<std::string> texts;
-    forEachCombo(
-        [&texts](const KeyCombo& combo) { ASSERT_TRUE(texts.insert(shown(combo)).second) << shown(combo); });
+    const ModifierNames ofMac{
+        .control = "Control", .option = "Option", .shift = "Shift", .command = "Command"};
+    const ModifierNames ofPC{.control = "Ctrl", .option = "Alt", .shift = "Shift", .command = "Super"};
+    for (const Notation& notation : {macSymbols(), macWords(ofMac), pcWords(ofPC), pcWords(ofPC, " ")}) {
+        std::set<std::string> texts;
+        forEachCombo([&](const KeyCombo& combo) {
+            ASSERT_TRUE(texts.insert(shown(combo, notation)).second) << shown(combo, notation);
+        });
+    }
 }
 
 TEST(StoredForm, TheEmptyCombinationIsLoadedEmpty) {

@@ -8,8 +8,7 @@ namespace qbsp::appkit {
 
 namespace {
 
-NSString* const longestReason =
-    @"Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well.";
+NSString* const longestReason = @"Shift alone is not enough: hold %@, %@ or %@ as well.";
 
 /// The tables of all languages, by the names of their folders.
 std::vector<std::filesystem::path> tables() {
@@ -35,8 +34,11 @@ protected:
             NSTableColumn* column = [columns objectAtIndex:index];
             EXPECT_GE([column width], [[column headerCell] cellSize].width);
         }
+        NSString* reason =
+            [translate(longestReason) stringByReplacingOccurrencesOfString:@"%@"
+                                                                withString:translate(@"Super")];
         for (QBSPRecorderView* recorder : {controls().noteHotKeyRecorder, controls().clipHotKeyRecorder})
-            [[recorder reasonField] setStringValue:translate(longestReason)];
+            [[recorder reasonField] setStringValue:reason];
         expectNothingCutOrCovered();
     }
 

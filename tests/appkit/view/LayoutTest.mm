@@ -12,8 +12,7 @@ namespace qbsp::appkit {
 
 namespace {
 
-NSString* const longestReason =
-    @"Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well.";
+NSString* const longestReason = @"Shift alone is not enough: hold Ctrl, Alt or Super as well.";
 
 constexpr CGFloat fontSizes[] = {9, 12, 15, 18, 21, 24};
 

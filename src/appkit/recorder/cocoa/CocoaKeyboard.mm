@@ -1,5 +1,7 @@
+#include "appkit/bridge/Retained.h"
 #include "appkit/recorder/KeyCap.h"
 #include "appkit/recorder/Keyboard.h"
+#import "appkit/recorder/cocoa/QBSPLayoutReceiver.h"
 
 #import <Carbon/Carbon.h>
 
@@ -12,14 +14,30 @@ namespace {
 /// Cocoa's events already have the Mac's codes and flags, and modifier keys never arrive as key-down events.
 class CocoaKeyboard : public Keyboard {
 public:
+    explicit CocoaKeyboard(LayoutListener& listener);
+
+    ~CocoaKeyboard() override { [receiver_.get() invalidate]; }
+
+    CocoaKeyboard(const CocoaKeyboard&) = delete;
+    CocoaKeyboard& operator=(const CocoaKeyboard&) = delete;
+
     std::optional<KeyPress> press(NSEvent* event) override;
 
     void observe(NSEvent*) override {}
 
+    CocoaFlags heldModifiers(NSEvent* event) const override { return [event modifierFlags] & modifiers::all; }
+
     void forgetHeldKeys() override {}
 
     std::string label(VirtualKey key) override;
+
+private:
+    appkit::Retained<QBSPLayoutReceiver*> receiver_;
 };
+
+CocoaKeyboard::CocoaKeyboard(LayoutListener& listener)
+    : receiver_(appkit::Retained<QBSPLayoutReceiver*>::adopt(
+          [[QBSPLayoutReceiver alloc] initWithListener:listener])) {}
 
 /// Nil where the layout prints nothing on the key.
 NSString* letterOnKey(const UCKeyboardLayout* layout, UInt16 key) {
@@ -53,8 +71,8 @@ std::string CocoaKeyboard::label(VirtualKey key) {
 
 } // namespace
 
-std::unique_ptr<Keyboard> makeKeyboard() {
-    return std::make_unique<CocoaKeyboard>();
+std::unique_ptr<Keyboard> makeKeyboard(LayoutListener& listener) {
+    return std::make_unique<CocoaKeyboard>(listener);
 }
 
 } // namespace qbsp::recorder

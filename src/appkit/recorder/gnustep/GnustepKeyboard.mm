@@ -1,7 +1,10 @@
+#include "appkit/bridge/Retained.h"
 #include "appkit/recorder/KeyCap.h"
 #include "appkit/recorder/Keyboard.h"
 #include "appkit/recorder/gnustep/EventModifiers.h"
+#import "appkit/recorder/gnustep/QBSPLayoutReceiver.h"
 #include "appkit/recorder/gnustep/X11Layout.h"
+#include "appkit/recorder/gnustep/X11LayoutWatch.h"
 #include "appkit/recorder/gnustep/X11Repetition.h"
 
 #import <GNUstepGUI/GSDisplayServer.h>
@@ -18,20 +21,34 @@ void* xDisplay() {
 
 class GnustepKeyboard : public Keyboard {
 public:
-    GnustepKeyboard() { omitReleasesOfHeldKeys(xDisplay()); }
+    explicit GnustepKeyboard(LayoutListener& listener);
+
+    ~GnustepKeyboard() override { [receiver_.get() invalidate]; }
+
+    GnustepKeyboard(const GnustepKeyboard&) = delete;
+    GnustepKeyboard& operator=(const GnustepKeyboard&) = delete;
 
     std::optional<KeyPress> press(NSEvent* event) override;
     void observe(NSEvent* event) override;
+    CocoaFlags heldModifiers(NSEvent* event) const override;
     void forgetHeldKeys() override;
     std::string label(VirtualKey key) override;
 
 private:
     void keyUp(X11KeyCode keyCode);
 
-    X11Layout layout_{xDisplay()};
+    X11LayoutWatch watch_{xDisplay()};
+    X11Layout layout_{watch_.display()};
+    appkit::Retained<QBSPLayoutReceiver*> receiver_;
     EventModifiers modifiers_;
     X11KeyCode downKey_ = 0;
 };
+
+GnustepKeyboard::GnustepKeyboard(LayoutListener& listener)
+    : receiver_(appkit::Retained<QBSPLayoutReceiver*>::adopt(
+          [[QBSPLayoutReceiver alloc] initWithWatch:watch_ listener:listener])) {
+    omitReleasesOfHeldKeys(xDisplay());
+}
 
 std::optional<KeyPress> GnustepKeyboard::press(NSEvent* event) {
     const X11KeyCode keyCode = [event keyCode];
@@ -57,6 +74,10 @@ void GnustepKeyboard::observe(NSEvent* event) {
         keyUp([event keyCode]);
 }
 
+CocoaFlags GnustepKeyboard::heldModifiers(NSEvent* event) const {
+    return modifiers_.held([event modifierFlags]);
+}
+
 void GnustepKeyboard::keyUp(X11KeyCode keyCode) {
     modifiers_.keyUp(layout_.modifier(keyCode));
     if (keyCode == downKey_)
@@ -75,8 +96,8 @@ std::string GnustepKeyboard::label(VirtualKey key) {
 
 } // namespace
 
-std::unique_ptr<Keyboard> makeKeyboard() {
-    return std::make_unique<GnustepKeyboard>();
+std::unique_ptr<Keyboard> makeKeyboard(LayoutListener& listener) {
+    return std::make_unique<GnustepKeyboard>(listener);
 }
 
 } // namespace qbsp::recorder

@@ -16,6 +16,7 @@ typedef const struct __CFData* CFDataRef;
 enum { noErr = 0, kUCKeyActionDisplay = 3, kUCKeyTranslateNoDeadKeysMask = 1 };
 
 extern "C" {
+extern const CFStringRef kTISNotifySelectedKeyboardInputSourceChanged;
 extern const CFStringRef kTISPropertyUnicodeKeyLayoutData;
 
 TISInputSourceRef TISCopyCurrentKeyboardLayoutInputSource(void);

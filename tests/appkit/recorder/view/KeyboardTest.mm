@@ -82,41 +82,68 @@ TEST_F(RecorderView, UnderstandsAHostThatChoseItsOwnModifierKeys) {
 
 TEST_F(KeyboardLayout, TheLabelIsWhatTheLayoutPrintsOnTheKey) {
     [first setKeyCode:keyZ flags:modifiers::control];
-    EXPECT_EQ(shown("⌃Z"), "⌃Z");
+    EXPECT_EQ(shown("Ctrl+Z"), "Ctrl+Z");
 
     ASSERT_TRUE(useLayout("de"));
-    EXPECT_EQ(shown("⌃Y"), "⌃Y");
+    EXPECT_EQ(shown("Ctrl+Y"), "Ctrl+Y");
 
     [first setKeyCode:keyQ flags:modifiers::control];
     ASSERT_TRUE(useLayout("fr"));
-    EXPECT_EQ(shown("⌃A"), "⌃A");
+    EXPECT_EQ(shown("Ctrl+A"), "Ctrl+A");
     EXPECT_EQ(text([first accessibilityValue]), "Control A");
+}
+
+TEST_F(KeyboardLayout, IsFollowedOnTheScreenAtOnce) {
+    [first setKeyCode:keyZ flags:modifiers::control];
+    [first display];
+    NSData* const american = picture(first);
+
+    ASSERT_TRUE(useLayout("de"));
+    EXPECT_TRUE(waitUntil([&] { return ![picture(first) isEqual:american]; }));
+    NSData* const german = picture(first);
+    [first display];
+    EXPECT_TRUE([german isEqual:picture(first)]);
+
+    ASSERT_TRUE(useLayout("us"));
+    EXPECT_TRUE(waitUntil([&] { return [picture(first) isEqual:american]; }));
+}
+
+TEST_F(KeyboardLayout, TheOneInUseOfTwoIsFollowedOnTheScreenAtOnce) {
+    ASSERT_TRUE(useLayout("us,de"));
+    [first setKeyCode:keyZ flags:modifiers::control];
+    EXPECT_EQ(shown("Ctrl+Z"), "Ctrl+Z");
+    [first display];
+    NSData* const american = picture(first);
+
+    useSecondLayout(window);
+    EXPECT_TRUE(waitUntil([&] { return ![picture(first) isEqual:american]; }));
+    EXPECT_EQ(text([first stringValue]), "Ctrl+Y");
 }
 
 TEST_F(KeyboardLayout, LettersOfOtherAlphabetsAreShownToo) {
     [first setKeyCode:keyQ flags:modifiers::control];
 
     ASSERT_TRUE(useLayout("ru"));
-    EXPECT_EQ(shown("⌃Й"), "⌃Й");
+    EXPECT_EQ(shown("Ctrl+Й"), "Ctrl+Й");
 
     ASSERT_TRUE(useLayout("gr"));
-    EXPECT_EQ(shown("⌃;"), "⌃;");
+    EXPECT_EQ(shown("Ctrl+;"), "Ctrl+;");
 }
 
 TEST_F(KeyboardLayout, AKeyThatPrintsNoCapitalOrOnlyAnAccentIsShownAsItIs) {
     ASSERT_TRUE(useLayout("de"));
 
     [first setKeyCode:27 flags:modifiers::control];
-    EXPECT_EQ(shown("⌃ß"), "⌃ß");
+    EXPECT_EQ(shown("Ctrl+ß"), "Ctrl+ß");
 
     [first setKeyCode:50 flags:modifiers::control];
-    EXPECT_EQ(shown("⌃^"), "⌃^");
+    EXPECT_EQ(shown("Ctrl+^"), "Ctrl+^");
 }
 
 TEST_F(KeyboardLayout, TheCodeIsTheKeysPlaceWhateverItPrints) {
     ASSERT_TRUE(useLayout("de"));
     [first setKeyCode:keyZ flags:modifiers::option];
-    ASSERT_EQ(shown("⌥Y"), "⌥Y");
+    ASSERT_EQ(shown("Alt+Y"), "Alt+Y");
     armFirst();
 
     press("ctrl+y");

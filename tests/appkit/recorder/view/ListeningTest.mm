@@ -8,13 +8,6 @@ namespace {
 constexpr VirtualKey keyC = 8;
 const KeyCombo commandA{.flags = modifiers::command, .code = 0};
 
-NSData* picture(NSView* view) {
-    [view lockFocus];
-    NSBitmapImageRep* bitmap = [[NSBitmapImageRep alloc] initWithFocusedViewRect:[view bounds]];
-    [view unlockFocus];
-    return [[bitmap autorelease] TIFFRepresentation];
-}
-
 RecorderWindow* otherWindow() {
     static RecorderWindow* const window = [[RecorderWindow alloc] initAtOrigin:NSMakePoint(700, 400)];
     [window fill];

@@ -46,4 +46,10 @@ private:
 
 [[nodiscard]] std::string text(NSString* string);
 
+/// What the view shows on the screen.
+[[nodiscard]] NSData* picture(NSView* view);
+
+/// Makes the second of the keyboard's layouts the one in use.
+void useSecondLayout(NSWindow* window);
+
 } // namespace qbsp::recorder

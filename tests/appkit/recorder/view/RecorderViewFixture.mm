@@ -109,4 +109,15 @@ std::string text(NSString* string) {
     return string == nil ? "" : [string UTF8String];
 }
 
+NSData* picture(NSView* view) {
+    [view lockFocus];
+    NSBitmapImageRep* bitmap = [[NSBitmapImageRep alloc] initWithFocusedViewRect:[view bounds]];
+    [view unlockFocus];
+    return [[bitmap autorelease] TIFFRepresentation];
+}
+
+void useSecondLayout(NSWindow* window) {
+    xWindow(window).useSecondLayout();
+}
+
 } // namespace qbsp::recorder

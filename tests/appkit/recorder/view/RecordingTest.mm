@@ -90,15 +90,34 @@ TEST_F(RecorderView, ShowsTheReasonUntilTheNextKey) {
     EXPECT_EQ(comboOf(first), (KeyCombo{.flags = modifiers::control, .code = keyA}));
 }
 
-TEST_F(RecorderView, ShowsAnAcceptedCombinationInSymbolsAndReportsItOnce) {
+TEST_F(RecorderView, ShowsAnAcceptedCombinationInTheWordsOfAPCsKeyboardAndReportsItOnce) {
     armFirst();
 
     press("ctrl+shift+c");
 
     const KeyCombo combo{.flags = modifiers::control | modifiers::shift, .code = keyC};
-    EXPECT_EQ(text([first stringValue]), "⌃⇧C");
+    EXPECT_EQ(text([first stringValue]), "Ctrl+Shift+C");
     EXPECT_EQ(delegateCalls.reported, std::vector{combo});
     EXPECT_FALSE([first isListening]);
+}
+
+TEST_F(RecorderView, ShowsTheModifiersThatAreHeldWhileItListens) {
+    const auto shows = [this](const std::string& expected) {
+        std::string seen;
+        std::ignore = waitUntil([&] { return (seen = text([first stringValue])) == expected; });
+        return seen == expected ? testing::AssertionSuccess() : testing::AssertionFailure() << seen;
+    };
+    armFirst();
+
+    ASSERT_TRUE(run({"xdotool", "keydown", "ctrl"}));
+    EXPECT_TRUE(shows("Ctrl+…"));
+    ASSERT_TRUE(run({"xdotool", "keydown", "Super_R"}));
+    EXPECT_TRUE(shows("Ctrl+Super+…"));
+    EXPECT_EQ(text([first accessibilityValue]), "Control Super …");
+    ASSERT_TRUE(run({"xdotool", "keyup", "ctrl"}));
+    EXPECT_TRUE(shows("Super+…"));
+    ASSERT_TRUE(run({"xdotool", "keyup", "Super_R"}));
+    EXPECT_TRUE(shows("Type shortcut"));
 }
 
 TEST_F(RecorderView, DoesNotReportTheCombinationItAlreadyHolds) {
@@ -168,7 +187,7 @@ TEST_F(RecorderView, RefusesALetterWithShiftAloneAndSaysWhy) {
 
     press("shift+c");
 
-    EXPECT_EQ(reason(), "Shift alone is not enough: hold Control, Option (Alt) or Command (Super) as well.");
+    EXPECT_EQ(reason(), "Shift alone is not enough: hold Ctrl, Alt or Super as well.");
     EXPECT_TRUE(delegateCalls.offered.empty());
     EXPECT_TRUE([first isListening]);
 }
@@ -178,7 +197,7 @@ TEST_F(RecorderView, RefusesAPlainLetterAndSaysWhy) {
 
     press("c");
 
-    EXPECT_EQ(reason(), "Hold Control, Option (Alt) or Command (Super) together with this key.");
+    EXPECT_EQ(reason(), "Hold Ctrl, Alt or Super together with this key.");
     EXPECT_TRUE(delegateCalls.offered.empty());
     EXPECT_TRUE([first isListening]);
 }
@@ -194,7 +213,7 @@ TEST_F(RecorderView, RefusesAKeyThatTheMacDoesNotHaveAndSaysWhy) {
 TEST_F(RecorderView, DoesNotReportACombinationSetByTheProgram) {
     [first setKeyCode:keyC flags:modifiers::control];
 
-    EXPECT_EQ(text([first stringValue]), "⌃C");
+    EXPECT_EQ(text([first stringValue]), "Ctrl+C");
     EXPECT_TRUE(delegateCalls.reported.empty());
 }
 
@@ -203,7 +222,7 @@ TEST_F(RecorderView, TreatsKeyCodeZeroLikeAnyOther) {
 
     press("super+a");
 
-    EXPECT_EQ(text([first stringValue]), "⌘A");
+    EXPECT_EQ(text([first stringValue]), "Super+A");
     EXPECT_EQ(delegateCalls.reported, std::vector{commandA});
 }
 
@@ -240,7 +259,7 @@ TEST_F(RecorderView, AScreenReaderGetsRoleLabelAndValueInWords) {
     EXPECT_EQ(text([first accessibilityRole]), text(NSAccessibilityButtonRole));
     EXPECT_EQ(text([first accessibilityRoleDescription]), "shortcut recorder");
     EXPECT_EQ(text([first accessibilityLabel]), "Take Note Hotkey");
-    EXPECT_EQ(text([first accessibilityValue]), "Command Shift C");
+    EXPECT_EQ(text([first accessibilityValue]), "Shift Super C");
 }
 
 TEST_F(RecorderView, AScreenReaderGetsTheTextsOfAnEmptyAndOfAListeningRecorder) {
@@ -284,7 +303,7 @@ TEST_F(RecorderView, SaysThatItsCombinationIsInUseElsewhereUntilItChanges) {
 
     armFirst();
     press("c");
-    EXPECT_EQ(reason(), "Hold Control, Option (Alt) or Command (Super) together with this key.");
+    EXPECT_EQ(reason(), "Hold Ctrl, Alt or Super together with this key.");
     press("Escape");
     EXPECT_EQ(reason(), "This combination is used elsewhere.");
 

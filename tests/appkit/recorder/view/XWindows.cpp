@@ -22,6 +22,11 @@ bool XWindow::isSentNoReleaseOfHeldKeys() const {
     return XkbGetDetectableAutoRepeat(static_cast<Display*>(display_), nullptr) == True;
 }
 
+void XWindow::useSecondLayout() const {
+    XkbLockGroup(static_cast<Display*>(display_), XkbUseCoreKbd, 1);
+    XFlush(static_cast<Display*>(display_));
+}
+
 XWindow::Point XWindow::onScreen(Point point) const {
     Display* display = static_cast<Display*>(display_);
     Point result{};

@@ -15,6 +15,9 @@ public:
     /// True when the client that owns the window is sent no release of a key while it is held down.
     [[nodiscard]] bool isSentNoReleaseOfHeldKeys() const;
 
+    /// Makes the second of the keyboard's layouts the one in use.
+    void useSecondLayout() const;
+
     struct Point {
         int x;
         int y;
