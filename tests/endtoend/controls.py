@@ -64,6 +64,10 @@ class Controls:
         """Clicks the control that has these values, until the click has the effect, in words `what`."""
         act_until(lambda: self._click_once(wanted), effect, what, self.summary)
 
+    def click_once(self, **wanted):
+        """Clicks the control that has these values, and not again if that has no effect."""
+        wait_until(lambda: self._click_once(wanted), f"a control with {wanted}", self.summary)
+
     def _click_once(self, wanted):
         control = self.find(**wanted)
         if control is None:
