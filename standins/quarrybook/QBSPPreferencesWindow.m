@@ -2,15 +2,20 @@
 
 #import "QBSPGeneralView.h"
 
-static const CGFloat barHeight = 84;
 static const NSSize firstSize = {620, 680};
 static const NSSize smallestSize = {480, 440};
-static const NSSize buttonSize = {84, 72};
+static const NSSize smallestButtonSize = {84, 72};
+static const CGFloat buttonPadding = 6;
+static const CGFloat firstButtonX = 12;
+static const CGFloat buttonGap = 6;
+static const CGFloat barPadding = 6;
 
 @interface QBSPPreferencesWindow ()
 - (void)makeWindow;
 - (void)makeBar;
-- (NSButton*)pageButtonAt:(CGFloat)x title:(NSString*)title image:(NSImage*)image action:(SEL)action;
+- (NSButton*)pageButton:(NSString*)title image:(NSImage*)image action:(SEL)action;
+- (void)placeButtons;
+- (CGFloat)barHeight;
 - (void)showPage:(NSView*)newPage;
 - (void)chooseGeneral:(id)sender;
 - (void)chooseSorter:(id)sender;
@@ -53,26 +58,19 @@ static const NSSize buttonSize = {84, 72};
 
 - (void)makeBar {
     NSImage* applicationIcon = [NSImage imageNamed:@"NSApplicationIcon"];
-    generalButton = [self pageButtonAt:12
-                                 title:@"General"
-                                 image:applicationIcon
-                                action:@selector(chooseGeneral:)];
-    sorterButton = [self pageButtonAt:12 + buttonSize.width + 6
-                                title:[runner label]
-                                image:[runner icon]
-                               action:@selector(chooseSorter:)];
+    generalButton = [self pageButton:@"General" image:applicationIcon action:@selector(chooseGeneral:)];
+    sorterButton = [self pageButton:[runner label] image:[runner icon] action:@selector(chooseSorter:)];
+    [self placeButtons];
     NSBox* line = [[[NSBox alloc]
-        initWithFrame:NSMakeRect(0, firstSize.height - barHeight, firstSize.width, 2)] autorelease];
+        initWithFrame:NSMakeRect(0, firstSize.height - [self barHeight], firstSize.width, 2)] autorelease];
     [line setBoxType:NSBoxSeparator];
     [line setTitlePosition:NSNoTitle];
     [line setAutoresizingMask:NSViewWidthSizable | NSViewMinYMargin];
     [[window contentView] addSubview:line];
 }
 
-- (NSButton*)pageButtonAt:(CGFloat)x title:(NSString*)title image:(NSImage*)image action:(SEL)action {
-    const CGFloat y = firstSize.height - barHeight + (barHeight - buttonSize.height) / 2 + 1;
-    const NSRect frame = NSMakeRect(x, y, buttonSize.width, buttonSize.height);
-    NSButton* button = [[[NSButton alloc] initWithFrame:frame] autorelease];
+- (NSButton*)pageButton:(NSString*)title image:(NSImage*)image action:(SEL)action {
+    NSButton* button = [[[NSButton alloc] initWithFrame:NSZeroRect] autorelease];
     [button setButtonType:NSPushOnPushOffButton];
     [button setBordered:YES];
     [button setBezelStyle:NSShadowlessSquareBezelStyle];
@@ -84,6 +82,26 @@ static const NSSize buttonSize = {84, 72};
     [button setAutoresizingMask:NSViewMinYMargin];
     [[window contentView] addSubview:button];
     return button;
+}
+
+// Side by side, all as large as the largest, which follows the system font.
+- (void)placeButtons {
+    NSArray* buttons = [NSArray arrayWithObjects:generalButton, sorterButton, nil];
+    NSSize size = smallestButtonSize;
+    for (NSButton* button in buttons) {
+        const NSSize needed = [[button cell] cellSize];
+        size.width = MAX(size.width, ceil(needed.width) + 2 * buttonPadding);
+        size.height = MAX(size.height, ceil(needed.height));
+    }
+    CGFloat x = firstButtonX;
+    for (NSButton* button in buttons) {
+        [button setFrame:NSMakeRect(x, firstSize.height - barPadding - size.height, size.width, size.height)];
+        x += size.width + buttonGap;
+    }
+}
+
+- (CGFloat)barHeight {
+    return NSHeight([generalButton frame]) + 2 * barPadding;
 }
 
 - (void)show {
@@ -137,7 +155,7 @@ static const NSSize buttonSize = {84, 72};
     const NSSize size = [[window contentView] bounds].size;
     [page removeFromSuperview];
     page = newPage;
-    [page setFrame:NSMakeRect(0, 0, size.width, size.height - barHeight)];
+    [page setFrame:NSMakeRect(0, 0, size.width, size.height - [self barHeight])];
     [[window contentView] addSubview:page];
     [[window contentView] setNeedsDisplay:YES];
 }
