@@ -2,6 +2,7 @@
 #include "propertylists/PropertyListText.h"
 
 #include <bit>
+#include <cstdint>
 #include <limits>
 #include <optional>
 #include <span>
@@ -36,6 +37,9 @@ enum Kind : unsigned {
     dictionary = 13
 };
 
+/// A place, a count or a size as the format has them, also where memory is addressed with fewer bits.
+using Offset = std::uint64_t;
+
 /// Reads a list in the binary format. Offsets and counts are held against the bytes that there are before
 /// they are used.
 class BinaryReader {
@@ -52,13 +56,13 @@ public:
 
 private:
     /// The number of the root; the table of the objects is known then.
-    std::optional<std::size_t> readTrailer() {
+    std::optional<Offset> readTrailer() {
         if (bytes_.size() < binaryBeginning.size() + trailerSize)
             return std::nullopt;
-        const std::size_t trailer = bytes_.size() - trailerSize;
+        const Offset trailer = bytes_.size() - trailerSize;
         offsetSize_ = *number(trailer + 6, 1);
         referenceSize_ = *number(trailer + 7, 1);
-        const std::size_t root = *number(trailer + 16, 8);
+        const Offset root = *number(trailer + 16, 8);
         objects_ = *number(trailer + 8, 8);
         table_ = *number(trailer + 24, 8);
         const bool areSizes = offsetSize_ - 1 < 8 && referenceSize_ - 1 < 8;
@@ -67,23 +71,25 @@ private:
     }
 
     /// Big-endian; none beyond the end, or when it has more than 8 bytes.
-    [[nodiscard]] std::optional<std::uint64_t> number(std::size_t place, std::size_t size) const {
+    [[nodiscard]] std::optional<Offset> number(Offset place, Offset size) const {
         const auto bytes = part(place, size);
         if (!bytes || size > 8)
             return std::nullopt;
-        std::uint64_t value = 0;
+        Offset value = 0;
         for (const char byte : *bytes)
             value = value << 8U | static_cast<unsigned char>(byte);
         return value;
     }
 
-    [[nodiscard]] std::optional<std::string_view> part(std::size_t place, std::size_t size) const {
+    [[nodiscard]] std::optional<std::string_view> part(Offset place, Offset size) const {
         const bool fits = place <= bytes_.size() && size <= bytes_.size() - place;
-        return fits ? std::optional(bytes_.substr(place, size)) : std::nullopt;
+        if (!fits)
+            return std::nullopt;
+        return bytes_.substr(static_cast<std::size_t>(place), static_cast<std::size_t>(size));
     }
 
     /// No value when the object is none, or a part of it.
-    Value readObject(std::size_t object, std::size_t depth) {
+    Value readObject(Offset object, std::size_t depth) {
         const auto place =
             object < objects_ ? number(table_ + object * offsetSize_, offsetSize_) : std::nullopt;
         const auto mark = place ? number(*place, 1) : std::nullopt;
@@ -96,12 +102,12 @@ private:
 
     static bool isFixed(unsigned kind) { return kind <= Kind::date; }
 
-    [[nodiscard]] Value readFixed(unsigned kind, unsigned low, std::size_t place) const {
+    [[nodiscard]] Value readFixed(unsigned kind, unsigned low, Offset place) const {
         constexpr unsigned no = 8;
         constexpr unsigned yes = 9;
         if (kind == Kind::single)
             return low == yes ? Value(true) : low == no ? Value(false) : Value();
-        const std::size_t size = std::size_t{1} << low;
+        const Offset size = Offset{1} << low;
         if (kind == Kind::integer)
             return size == 16 ? readWideInteger(place) : readInteger(place, size);
         const auto bits = number(place, size);
@@ -114,12 +120,12 @@ private:
     }
 
     // Integers of 8 bytes have a sign, narrower ones have none.
-    [[nodiscard]] Value readInteger(std::size_t place, std::size_t size) const {
+    [[nodiscard]] Value readInteger(Offset place, Offset size) const {
         const auto value = number(place, size);
         return value ? narrowestInteger(static_cast<std::int64_t>(*value)) : Value();
     }
 
-    [[nodiscard]] Value readWideInteger(std::size_t place) const {
+    [[nodiscard]] Value readWideInteger(Offset place) const {
         const auto high = number(place, 8);
         const auto low = number(place + 8, 8);
         if (!high || !low)
@@ -131,11 +137,11 @@ private:
     }
 
     /// What has a count, which stands after the mark when it is 15 or more.
-    Value readCounted(unsigned kind, unsigned low, std::size_t place, std::size_t depth) {
+    Value readCounted(unsigned kind, unsigned low, Offset place, std::size_t depth) {
         constexpr unsigned countFollows = 15;
-        std::uint64_t count = low;
+        Offset count = low;
         if (low == countFollows) {
-            const std::size_t size = sizeOfCount(place);
+            const Offset size = sizeOfCount(place);
             count = number(place + 1, size).value_or(bytes_.size() + 1);
             place += 1 + size;
         }
@@ -146,13 +152,13 @@ private:
     }
 
     /// More bytes than a number has, where the mark of an integer is missing.
-    [[nodiscard]] std::size_t sizeOfCount(std::size_t place) const {
-        const std::uint64_t mark = number(place, 1).value_or(0);
+    [[nodiscard]] Offset sizeOfCount(Offset place) const {
+        const Offset mark = number(place, 1).value_or(0);
         const bool isInteger = mark >> 4U == Kind::integer && (mark & 0xFU) <= 3;
-        return isInteger ? std::size_t{1} << (mark & 0xFU) : bytes_.size();
+        return isInteger ? Offset{1} << (mark & 0xFU) : bytes_.size();
     }
 
-    Value readBytes(unsigned kind, std::size_t place, std::size_t count) {
+    Value readBytes(unsigned kind, Offset place, Offset count) {
         const auto bytes = part(place, kind == Kind::utf16 ? 2 * count : count);
         if (!bytes || !spend(bytes->size()))
             return {};
@@ -191,7 +197,7 @@ private:
         return text;
     }
 
-    Value readContainer(unsigned kind, std::size_t place, std::size_t count, std::size_t depth) {
+    Value readContainer(unsigned kind, Offset place, Offset count, std::size_t depth) {
         if (depth > deepestNesting)
             return refuse(Fault::nestedTooDeeply);
         if (kind == Kind::array)
@@ -199,9 +205,9 @@ private:
         return kind == Kind::dictionary ? readDictionary(place, count, depth) : Value();
     }
 
-    Value readArray(std::size_t place, std::size_t count, std::size_t depth) {
+    Value readArray(Offset place, Offset count, std::size_t depth) {
         Array elements;
-        for (std::size_t index = 0; index < count; ++index) {
+        for (Offset index = 0; index < count; ++index) {
             elements.push_back(readReference(place, index, depth));
             if (!elements.back().exists())
                 return {};
@@ -209,9 +215,9 @@ private:
         return elements;
     }
 
-    Value readDictionary(std::size_t place, std::size_t count, std::size_t depth) {
+    Value readDictionary(Offset place, Offset count, std::size_t depth) {
         Dictionary entries;
-        for (std::size_t index = 0; index < count; ++index) {
+        for (Offset index = 0; index < count; ++index) {
             const Value key = readReference(place, index, depth);
             Value value = readReference(place, count + index, depth);
             if (key.as<std::string>() == nullptr || !value.exists())
@@ -221,7 +227,7 @@ private:
         return entries;
     }
 
-    Value readReference(std::size_t place, std::size_t index, std::size_t depth) {
+    Value readReference(Offset place, Offset index, std::size_t depth) {
         const auto object = number(place + index * referenceSize_, referenceSize_);
         return object ? readObject(*object, depth) : Value();
     }
@@ -241,10 +247,10 @@ private:
     }
 
     std::string_view bytes_;
-    std::size_t offsetSize_ = 0;
-    std::size_t referenceSize_ = 0;
-    std::size_t objects_ = 0;
-    std::size_t table_ = 0;
+    Offset offsetSize_ = 0;
+    Offset referenceSize_ = 0;
+    Offset objects_ = 0;
+    Offset table_ = 0;
     std::size_t spent_ = 0;
     std::optional<Fault> fault_;
 };

@@ -23,7 +23,8 @@ const Command& commandNamed(const std::string& name) {
 
 ReadCommand readCommand(std::string_view line, const Scene& scene) {
     qbsp::scenario::Words words(line);
-    const Command& command = commandNamed(words.word());
+    const std::string name = words.word();
+    const Command& command = commandNamed(name);
     ReadCommand read{.echo = command.echo, .action = command.read(words, scene)};
     words.finish();
     return read;

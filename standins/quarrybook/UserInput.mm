@@ -58,7 +58,7 @@ NSEvent* keyEvent(NSEventType type, NSWindow* window, const Key& key, std::uint6
     NSString* characters = [NSString stringWithCharacters:&key.character length:1];
     return [NSEvent keyEventWithType:type
                             location:NSZeroPoint
-                       modifierFlags:eventFlags(flags)
+                       modifierFlags:static_cast<NSUInteger>(eventFlags(flags))
                            timestamp:[NSDate timeIntervalSinceReferenceDate]
                         windowNumber:[window windowNumber]
                              context:[window graphicsContext]

@@ -79,7 +79,8 @@ Action readResize(Words& arguments, const Scene& scene) {
     const std::int32_t width = arguments.signed32();
     const std::int32_t height = arguments.signed32();
     return [=, &scene] {
-        [[scene.preferences() window] setContentSize:NSMakeSize(width, height)];
+        [[scene.preferences() window]
+            setContentSize:NSMakeSize(static_cast<CGFloat>(width), static_cast<CGFloat>(height))];
         return after(timeForWindows);
     };
 }

@@ -11,7 +11,8 @@ static const CGFloat margin = 6;
 @implementation QBSPTabView
 
 - (void)drawRect:(NSRect)rect {
-    [[NSColor colorWithCalibratedRed:0.20 green:0.33 blue:0.55 alpha:1] set];
+    [[NSColor colorWithCalibratedRed:CGFloat{20} / 100 green:CGFloat{33} / 100 blue:CGFloat{55} / 100
+                               alpha:1] set];
     NSRectFill(rect);
     NSDictionary* look =
         [NSDictionary dictionaryWithObjectsAndKeys:[NSFont boldSystemFontOfSize:14], NSFontAttributeName,

@@ -12,7 +12,7 @@ namespace qbsp::appkit {
 namespace {
 
 /// The system's own small size does not follow the chosen one everywhere.
-constexpr CGFloat remarkShare = 11.0 / 13.0;
+constexpr CGFloat remarkShare = CGFloat{11} / 13;
 
 bool hasCharacters(NSFont* font, NSString* characters) {
     NSCharacterSet* covered = [font coveredCharacterSet];

@@ -9,7 +9,7 @@ namespace qbsp::recorder {
 namespace {
 
 constexpr CGFloat cornerRadius = 5;
-constexpr CGFloat clearButtonShare = 14.0 / 26.0;
+constexpr CGFloat clearButtonShare = CGFloat{14} / 26;
 constexpr CGFloat clearButtonMargin = 7;
 
 NSBezierPath* roundedRect(NSRect rect) {
@@ -58,7 +58,8 @@ void drawClearButton(const RecorderLook& look) {
     [look.isClearPressed ? [NSColor textColor] : [NSColor controlShadowColor] set];
     [[NSBezierPath bezierPathWithOvalInRect:rect] fill];
 
-    const NSRect cross = NSInsetRect(rect, NSWidth(rect) * 0.32, NSWidth(rect) * 0.32);
+    const CGFloat inset = NSWidth(rect) * 8 / 25;
+    const NSRect cross = NSInsetRect(rect, inset, inset);
     NSBezierPath* strokes = [NSBezierPath bezierPath];
     [strokes moveToPoint:NSMakePoint(NSMinX(cross), NSMinY(cross))];
     [strokes lineToPoint:NSMakePoint(NSMaxX(cross), NSMaxY(cross))];

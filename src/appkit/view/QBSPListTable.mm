@@ -14,7 +14,7 @@ static const CGFloat rowPadding = 6;
 static const CGFloat headerPadding = 8;
 static const CGFloat minimumFlagColumnWidth = 70;
 static const CGFloat flagColumnPadding = 16;
-static const CGFloat stripeStrength = 0.06;
+static const CGFloat stripeStrength = CGFloat{6} / 100;
 
 static NSFont* headerFont() {
     return [NSFont boldSystemFontOfSize:[NSFont systemFontSize]];

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <fcntl.h>
 #include <filesystem>
 #include <iterator>
@@ -47,7 +48,20 @@ constexpr Arguments fileCalls[] = {
 #endif
     {SYS_openat, "openat", 0, 1},
     {SYS_openat2, "openat2", 0, 1},
+#ifdef SYS_newfstatat
     {SYS_newfstatat, "newfstatat", 0, 1},
+#else // 32-bit machines have calls with wider numbers besides the older ones
+    {SYS_stat64, "stat64", none, 0},
+    {SYS_lstat64, "lstat64", none, 0},
+    {SYS_fstatat64, "fstatat64", 0, 1},
+    {SYS_fstat64, "fstat64", 0, none},
+    {SYS_truncate64, "truncate64", none, 0},
+    {SYS_ftruncate64, "ftruncate64", 0, none},
+    {SYS_chown32, "chown32", none, 0},
+    {SYS_lchown32, "lchown32", none, 0},
+    {SYS_fchown32, "fchown32", 0, none},
+    {SYS_utimensat_time64, "utimensat_time64", 0, 1},
+#endif
     {SYS_statx, "statx", 0, 1},
     {SYS_faccessat, "faccessat", 0, 1},
     {SYS_faccessat2, "faccessat2", 0, 1},
@@ -89,7 +103,7 @@ std::string textAt(pid_t process, std::uint64_t address) {
         const std::uint64_t next = address + length;
         const iovec here{bytes.data() + length,
                          std::min(bytes.size() - length, static_cast<std::size_t>(page - next % page))};
-        const iovec there{reinterpret_cast<void*>(next), here.iov_len};
+        const iovec there{reinterpret_cast<void*>(static_cast<std::uintptr_t>(next)), here.iov_len};
         const auto count = process_vm_readv(process, &here, 1, &there, 1, 0);
         if (count <= 0)
             return "";

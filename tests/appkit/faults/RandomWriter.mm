@@ -44,7 +44,7 @@ public:
     }
 
     [[nodiscard]] bool save() {
-        const long began = now();
+        const std::int64_t began = now();
         const bool sorterIsSaved = preferences_->synchronize(sorter, platform::PreferencesUser::currentUser,
                                                              platform::PreferencesHost::anyHost);
         const bool isSaved = userDefaults_.synchronize() && sorterIsSaved;
@@ -79,7 +79,7 @@ private:
     }
 
     // What a writer that was killed had set before is gone.
-    void noteSaved(long began) {
+    void noteSaved(std::int64_t began) {
         for (const auto& [saved, value] : std::exchange(unsaved_, {}))
             *saved = value;
         if (unsavedList_ == 0)
@@ -99,7 +99,7 @@ private:
 };
 
 bool savesAfterAll(Writer& writer) {
-    const long limit = now() + std::chrono::nanoseconds(std::chrono::seconds(30)).count();
+    const std::int64_t limit = now() + std::chrono::nanoseconds(std::chrono::seconds(30)).count();
     while (!writer.save())
         if (now() > limit)
             return false;
@@ -112,7 +112,7 @@ std::string keyOf(int writer, int key) {
     return "key " + std::to_string(key) + " of writer " + std::to_string(writer);
 }
 
-long now() {
+std::int64_t now() {
     return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 

@@ -109,7 +109,7 @@ TEST_F(Layout, HasOneLeftEdgeAndMarginsOfTwentyPoints) {
 }
 
 TEST_F(Layout, GivesLabelsAndTheirControlsOneBaseline) {
-    for (const CGFloat size : {9.0, 12.0, 15.0, 18.0}) {
+    for (const CGFloat size : {CGFloat{9}, CGFloat{12}, CGFloat{15}, CGFloat{18}}) {
         setFontSize(size);
         for (NSTextField* const label : {controls().visibilityLabel, controls().availabilityLabel})
             [label setStringValue:@"HHHHHHHH"];

@@ -157,7 +157,8 @@ void PaneWindow::clickAt(NSView* clicked, NSPoint point, const std::function<boo
 }
 
 NSView* PaneWindow::focused() const {
-    return static_cast<NSView*>([window firstResponder]);
+    const id focused = [window firstResponder];
+    return focused;
 }
 
 void PaneWindow::settle() {

@@ -6,14 +6,17 @@ namespace qbsp::appkit {
 
 namespace {
 
-constexpr CGFloat sizeInFont = 7.0 / 6.0;
+constexpr CGFloat sizeInFont = CGFloat{7} / 6;
 constexpr CGFloat gapBeforeTitle = 4;
 
 void drawTick(CGFloat size) {
+    const auto atPercent = [size](CGFloat x, CGFloat y) {
+        return NSMakePoint(size * x / 100, size * y / 100);
+    };
     NSBezierPath* tick = [NSBezierPath bezierPath];
-    [tick moveToPoint:NSMakePoint(size * 0.24, size * 0.52)];
-    [tick lineToPoint:NSMakePoint(size * 0.43, size * 0.28)];
-    [tick lineToPoint:NSMakePoint(size * 0.78, size * 0.76)];
+    [tick moveToPoint:atPercent(24, 52)];
+    [tick lineToPoint:atPercent(43, 28)];
+    [tick lineToPoint:atPercent(78, 76)];
     [tick setLineWidth:std::ceil(size / 8)];
     [[NSColor textColor] set];
     [tick stroke];

@@ -51,7 +51,7 @@ public:
 
     void clickButton() override { [view_.get()->button performClick:nil]; }
 
-    void setRowCount(std::int64_t count) override { view_.get()->rowCount = count; }
+    void setRowCount(std::int64_t count) override { view_.get()->rowCount = static_cast<NSInteger>(count); }
 
     std::int64_t shownRows() override { return [view_.get()->table numberOfRows]; }
 
@@ -72,7 +72,7 @@ public:
     bool rowIsVisible(std::int64_t row) override {
         NSTableView* table = view_.get()->table;
         const NSRect seen = [[table enclosingScrollView] documentVisibleRect];
-        const NSRect wanted = [table rectOfRow:row];
+        const NSRect wanted = [table rectOfRow:static_cast<NSInteger>(row)];
         return NSMinY(seen) <= NSMinY(wanted) && NSMaxY(wanted) <= NSMaxY(seen);
     }
 
