@@ -2,6 +2,7 @@
 
 #include "appkit/drawing/Fonts.h"
 #import "appkit/view/Alignment.h"
+#import "appkit/view/QBSPListTable.h"
 #import "appkit/view/TextMeasuring.h"
 
 #include <algorithm>
@@ -28,11 +29,22 @@ NSSize buttonSize(NSButton* button) {
                       line + pushButtonHeightPadding);
 }
 
+NSSize listSize(NSScrollView* list) {
+    auto* table = static_cast<QBSPListTable*>([list documentView]);
+    const NSSize size = NSMakeSize([table minimumWidth], NSHeight([list frame]));
+    return [NSScrollView frameSizeForContentSize:size
+                           hasHorizontalScroller:NO
+                             hasVerticalScroller:YES
+                                      borderType:[list borderType]];
+}
+
 NSSize contentSize(NSView* control, CGFloat width) {
     if ([control isKindOfClass:[NSTextField class]])
         return sizeOfWrappedText(static_cast<NSTextField*>(control), width);
     if ([control isKindOfClass:[NSButton class]])
         return buttonSize(static_cast<NSButton*>(control));
+    if ([control isKindOfClass:[NSScrollView class]])
+        return listSize(static_cast<NSScrollView*>(control));
     return [control frame].size;
 }
 

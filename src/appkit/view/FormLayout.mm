@@ -44,7 +44,7 @@ void FormLayout::addRow(FormRow row) {
 NSSize FormLayout::minimumSize(CGFloat width) const {
     CGFloat widest = 0;
     for (const FormRow& row : rows_)
-        if (isVisible(row) && row.stretch == Stretch::none)
+        if (isVisible(row))
             widest = std::max(widest, widestControl(row));
     const CGFloat wideEnough = std::max(width, widest + 2 * margin);
     CGFloat height = heightWithoutStretching(wideEnough);
@@ -87,7 +87,7 @@ FormLayout::Columns FormLayout::columns(CGFloat width) const {
 CGFloat FormLayout::controlWidth() const {
     CGFloat widest = 0;
     for (const FormRow& row : rows_)
-        if (row.label != nil && row.stretch == Stretch::none)
+        if (row.label != nil)
             widest = std::max(widest, widestControl(row));
     return widest;
 }

@@ -18,6 +18,9 @@
 /// Makes the column of flags as wide as its title, and that of names as wide as the room that is left.
 - (void)fitColumns;
 
+/// The width that shows the columns' titles whole.
+- (CGFloat)minimumWidth;
+
 /// What the data source has.
 - (id)valueInColumn:(NSInteger)column row:(NSInteger)row;
 - (NSString*)nameOfRow:(NSInteger)row;

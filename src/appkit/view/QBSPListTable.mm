@@ -25,6 +25,8 @@ static NSFont* headerFont() {
 - (void)addNameColumn;
 - (void)addFlagColumn;
 - (void)sizeHeader;
+- (CGFloat)widthOfFlags;
+- (CGFloat)spacing;
 - (BOOL)showsFocus;
 @end
 
@@ -96,16 +98,32 @@ static NSFont* headerFont() {
     }
 }
 
+- (CGFloat)widthOfFlags {
+    NSTableColumn* flags = [self tableColumnWithIdentifier:nsString(qbsp::flagColumn.text)];
+    return MAX(minimumFlagColumnWidth, [[flags headerCell] cellSize].width + flagColumnPadding);
+}
+
+- (CGFloat)minimumWidth {
+    NSTableColumn* names = [self tableColumnWithIdentifier:nsString(qbsp::nameColumn.text)];
+    return [[names headerCell] cellSize].width + [self widthOfFlags] + [self spacing];
+}
+
 // A column may take up more space than its width.
+- (CGFloat)spacing {
+    CGFloat spacing = 0;
+    for (NSInteger index = 0; index < [self numberOfColumns]; ++index)
+        spacing += NSWidth([self rectOfColumn:index]) -
+                   [[[self tableColumns] objectAtIndex:static_cast<NSUInteger>(index)] width];
+    return spacing;
+}
+
 - (void)fitColumns {
     NSTableColumn* names = [self tableColumnWithIdentifier:nsString(qbsp::nameColumn.text)];
     NSTableColumn* flags = [self tableColumnWithIdentifier:nsString(qbsp::flagColumn.text)];
-    const CGFloat title = [[flags headerCell] cellSize].width + flagColumnPadding;
-    [flags setMaxWidth:MAX(minimumFlagColumnWidth, title)];
+    [flags setMaxWidth:[self widthOfFlags]];
     [flags setMinWidth:[flags maxWidth]];
     [flags setWidth:[flags maxWidth]];
-    const CGFloat spacing = NSMaxX([self rectOfColumn:1]) - [names width] - [flags width];
-    const CGFloat room = [[self enclosingScrollView] contentSize].width - spacing - [flags width];
+    const CGFloat room = [[self enclosingScrollView] contentSize].width - [self spacing] - [flags width];
     [names setWidth:MAX([flags width], room)];
 }
 

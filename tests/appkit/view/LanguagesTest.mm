@@ -69,7 +69,7 @@ TEST_F(Languages, HaveRoomForAllOfTheirTexts) {
 
 TEST_F(Languages, OfTextsTwiceAsLongHaveRoom) {
     expectRoomFor([](NSString* key) { return [NSString stringWithFormat:@"%@ %@", key, key]; },
-                  {NSMakeSize(620, 560), NSMakeSize(900, 800)});
+                  {NSMakeSize(480, 356), NSMakeSize(595, 480), NSMakeSize(900, 800)});
 }
 
 TEST_F(Languages, AreShownInFontsThatHaveTheirCharacters) {
