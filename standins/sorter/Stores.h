@@ -6,7 +6,8 @@
 
 namespace standin {
 
-/// The settings that the Sorter and the host share, read from their files on each call.
+/// The settings that the Sorter and the host share, read from their files on each call. A host is named by
+/// its process.
 class Stores {
 public:
     /// The stores of the Sorter of that bundle identifier.

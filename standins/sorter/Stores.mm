@@ -1,6 +1,7 @@
 #include "Stores.h"
 
 #include "Description.h"
+#include "defaults/Domains.h"
 #include "xdg/UserFolders.h"
 
 #include <array>
@@ -21,6 +22,13 @@ id valueInDomain(NSString* domain, NSString* key) {
     NSUserDefaults* defaults = [[[NSUserDefaults alloc] init] autorelease];
     [defaults synchronize];
     return [[defaults persistentDomainForName:domain] objectForKey:key];
+}
+
+// The host says who it is by the name of its process, and its domain may be named in another way.
+NSString* domainOf(NSString* host) {
+    NSString* const quarrybook = @"Quarrybook";
+    return [host isEqual:quarrybook] ? defaults::domainOfApplication(quarrybook, @"com.quarrybook.Quarrybook")
+                                     : host;
 }
 
 std::string reading(NSString* key, id value) {
@@ -50,16 +58,16 @@ id listOfAnEdition() {
 std::string Stores::hotKeys(NSString* host) const {
     std::string all;
     for (NSString* key : hotKeyKeys)
-        all += (all.empty() ? "" : " ") + reading(key, valueInDomain(host, key));
+        all += (all.empty() ? "" : " ") + reading(key, valueInDomain(domainOf(host), key));
     return isEmbedded() ? all + " " + reading(clipHotKeyFile, sharedClipHotKey()) : all;
 }
 
 std::string Stores::visibility(NSString* host) const {
-    return reading(tabIsInvisible, valueInDomain(host, tabIsInvisible));
+    return reading(tabIsInvisible, valueInDomain(domainOf(host), tabIsInvisible));
 }
 
 bool Stores::tabIsVisible(NSString* host) const {
-    id invisible = valueInDomain(host, tabIsInvisible);
+    id invisible = valueInDomain(domainOf(host), tabIsInvisible);
     return ![invisible respondsToSelector:@selector(boolValue)] || ![invisible boolValue];
 }
 

@@ -1,5 +1,7 @@
 """A desktop session of a test's own: home, defaults, notification daemon, display. Nothing of it is left afterwards."""
 
+import functools
+import json
 import os
 import pathlib
 import plistlib
@@ -13,6 +15,7 @@ import time
 BUILD = pathlib.Path(os.environ["BUILD_FOLDER"])
 QUARRYBOOK = BUILD / "bin/Quarrybook.app/Quarrybook"
 PANE = BUILD / "SorterPane.prefPane"
+HOST = "Quarrybook"
 SORTER = "com.quarrybook.Sorter"
 SOLO_SORTER = "com.quarrybook.SoloSorter"
 HIDE_LIST = "UserSpecifiedFullScreenApplications"
@@ -63,7 +66,7 @@ def fail(what, seen):
 class Session:
     def __init__(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="qb.", dir="/tmp"))
-        self.home = self.folder / "home"
+        self.home = self.folder / "Zoë Müller's home"
         self.defaults = self.home / "GNUstep/Defaults"
         self.temp = self.folder / "t"
         self.environment = self._environment()
@@ -76,6 +79,7 @@ class Session:
     def __enter__(self):
         try:
             self._start_display()
+            self._start_window_manager()
         except BaseException:
             self.end()
             raise
@@ -108,8 +112,10 @@ class Session:
         }
         text = pathlib.Path("/etc/GNUstep/GNUstep.conf").read_text()
         for name, value in own.items():
-            text = re.sub(rf"(?m)^{name}=.*$", f"{name}={value}", text)
-        (self.folder / "GNUstep.conf").write_text(text)
+            text = re.sub(rf"(?m)^{name}=.*$", f'{name}="{value}"', text)
+        configuration = self.folder / "GNUstep.conf"
+        configuration.write_text(text)
+        configuration.chmod(0o600)  # GNUstep takes no notice of one that others could write
 
     def _start_display(self):
         reader, writer = os.pipe()
@@ -120,6 +126,8 @@ class Session:
         os.close(writer)
         with os.fdopen(reader) as numbers:
             self.environment["DISPLAY"] = ":" + numbers.readline().strip()
+
+    def _start_window_manager(self):
         managed = self.folder / "managed"
         self.manager = subprocess.Popen(["openbox", "--config-file", WINDOW_MANAGER, "--startup", f"touch {managed}"],
                                         env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -149,7 +157,12 @@ class Session:
     # --- Stores
 
     def domain_file(self, domain):
-        return self.defaults / f"{domain}.plist"
+        return self.defaults / f"{self._host_domain if domain == HOST else domain}.plist"
+
+    @functools.cached_property
+    def _host_domain(self):
+        """The stand-in host's own domain, which each release of GNUstep names in its own way."""
+        return self.run(os.environ["OWN_DOMAIN"]).stdout.strip()
 
     def domain(self, domain):
         with open(self.domain_file(domain), "rb") as file:
@@ -192,6 +205,11 @@ class Session:
 
     def living(self):
         return [process for process in self._processes() if is_alive(process)]
+
+
+def word(path):
+    """The path as a word of a scenario."""
+    return json.dumps(str(path), ensure_ascii=False)
 
 
 def read_process_file(process, name):

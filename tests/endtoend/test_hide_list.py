@@ -2,7 +2,7 @@
 
 import unittest
 
-from session import HIDE_LIST, SOLO_SORTER, SORTER, Session
+from session import HIDE_LIST, SOLO_SORTER, SORTER, Session, word
 
 ODD_NAMES = {
     "line\nfeed": True,
@@ -106,7 +106,7 @@ class HideListTest(unittest.TestCase):
         contents.mkdir(parents=True, exist_ok=True)
         (contents / "Info.plist").write_text("{CFBundleExecutable = Ledger; CFBundleName = Other;}")
 
-        played = self.session.play("select", "add", f"choose {contents.parent}", "press OK", "value 1 1", "state",
+        played = self.session.play("select", "add", f"choose {word(contents.parent)}", "press OK", "value 1 1", "state",
                                    "unselect", options=options)
 
         self.assertIn('\n= "Ledger"\n', played)

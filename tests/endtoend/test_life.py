@@ -7,7 +7,7 @@ import unittest
 
 from controls import Controls
 from host import Host
-from session import HIDE_LIST, SOLO_SORTER, SORTER, Session
+from session import HIDE_LIST, HOST, SOLO_SORTER, SORTER, Session
 
 HIDDEN_IN_THE_SANDBOX = {"clipHotKeyRecorder", "showAtLoginCheckbox", "availabilityLabel", "copySelectionLabel"}
 KEY_N = 45
@@ -74,17 +74,17 @@ class LifeTest(unittest.TestCase):
 
     def test_full_shows_and_stores_the_host_s_default_inverted(self):
         self.assertEqual(self.state()["visibilityButton"]["state"], 1)
-        self.assertIs(self.session.domain("Quarrybook")["SorterTabIsInvisible"], False)
+        self.assertIs(self.session.domain(HOST)["SorterTabIsInvisible"], False)
 
         self.session.play("select", "set visibilityButton 0", "unselect")
 
-        self.assertIs(self.session.domain("Quarrybook")["SorterTabIsInvisible"], True)
+        self.assertIs(self.session.domain(HOST)["SorterTabIsInvisible"], True)
         self.assertEqual(self.state()["visibilityButton"]["state"], 0)
 
     def test_a_recorded_hot_key_is_stored_at_once_and_shown_again(self):
         self.session.play("select", "change clip 8 0x120000", "unselect")
 
-        host = self.session.domain("Quarrybook")
+        host = self.session.domain(HOST)
         self.assertEqual(host["Sorter.ClipHotKeyCode"], 8)
         self.assertEqual(host["Sorter.ClipHotKeyModifiers"], 0x300)
         self.assertEqual(self.state()["clipHotKeyRecorder"]["flags"], 0x120000)
@@ -98,7 +98,7 @@ class LifeTest(unittest.TestCase):
                 taken, reason = json.loads(answers[0])
                 self.assertTrue(taken)
                 self.assertIn("`Take Note' hot key", reason)
-                self.assertNotIn("Sorter.ClipHotKeyCode", self.session.domain("Quarrybook"))
+                self.assertNotIn("Sorter.ClipHotKeyCode", self.session.domain(HOST))
 
     def test_without_a_registrar_leaving_opens_the_login_item_alert(self):
         answers = self.session.answers("select", "unselect", "press Cancel", "select", "rows", "unselect",
@@ -128,7 +128,7 @@ class LifeTest(unittest.TestCase):
         self.assertNotIn("ERROR", "\n".join(host.terminate()))
 
     def note_hot_key(self):
-        return self.session.domain("Quarrybook").get("Sorter.NoteHotKeyCode")
+        return self.session.domain(HOST).get("Sorter.NoteHotKeyCode")
 
     def test_the_shared_file_of_the_sandboxed_build_is_left_to_the_hidden_recorder(self):
         self.session.play("select", "change note 8 0x120000", "unselect", options=["--sandboxed"])

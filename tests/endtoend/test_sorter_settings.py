@@ -7,7 +7,7 @@ import unittest
 from host import Host
 from real_sorter import (EMBEDDED_SORTER, FULL, ORDINARY_BUILDS, SANDBOXED_BUILDS, SOLO, SorterTest, hot_key,
                          program_of)
-from session import HIDE_LIST, PANE, SOLO_SORTER, SORTER, wait_until
+from session import HIDE_LIST, HOST, PANE, SOLO_SORTER, SORTER, wait_until
 
 HOT_KEYS = "QBSSorterShortcutKeysChanged"
 PREFERENCES = "QBSSorterPreferencesUpdated"
@@ -31,7 +31,7 @@ class SorterSettingsTest(SorterTest):
             self.wait_logged(PREFERENCES, hot_key(45, CONTROL | OPTION))
             sorter.kill()
             sorter.wait()
-            self.session.domain_file("Quarrybook").unlink()
+            self.session.domain_file(HOST).unlink()
 
     def test_hot_keys_and_the_visibility_reach_the_sorter(self):
         for options, identifier in self.each_build(ORDINARY_BUILDS):
@@ -51,10 +51,10 @@ class SorterSettingsTest(SorterTest):
                                                  "Sorter.ClipHotKeyCode": 8, "Sorter.ClipHotKeyModifiers": 0x300})
             sorter.kill()
             sorter.wait()
-            self.session.domain_file("Quarrybook").unlink()
+            self.session.domain_file(HOST).unlink()
 
     def assert_stored_as_whole_numbers(self, expected):
-        stored = {key: value for key, value in self.session.domain("Quarrybook").items() if key in expected}
+        stored = {key: value for key, value in self.session.domain(HOST).items() if key in expected}
         self.assertEqual(stored, expected)
         self.assertEqual({type(value) for value in stored.values()}, {int})
 

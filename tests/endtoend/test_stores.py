@@ -7,9 +7,8 @@ import signal
 import time
 
 from real_sorter import SANDBOXED_BUILDS, SorterTest
-from session import HIDE_LIST, SORTER, wait_until
+from session import HIDE_LIST, HOST, SORTER, wait_until, word
 
-HOST = "Quarrybook"
 LIST = "QBSSorterHideAppUpdated"
 LIMIT = 2
 ODD_VALUES = {"emoji \U0001f600": "\U0001f600", "real": 0.30000000000000004, "wide": 2**64 - 1, "flag": True}
@@ -140,7 +139,7 @@ class StoresTest(SorterTest):
         contents.mkdir(parents=True)
         (contents / "Info.plist").write_bytes(deep)
 
-        lines = self.play("select", "rows", "add", f"choose {contents.parent}", "press OK", "unselect")
+        lines = self.play("select", "rows", "add", f"choose {word(contents.parent)}", "press OK", "unselect")
 
         self.assertIn("= 0", lines)
         self.assertEqual(sum("is nested too deeply; nothing of it is used" in line for line in lines), 2, lines)

@@ -1,6 +1,7 @@
 """An independent host of preference panes, SystemPreferences, shows and leaves the pane again and again."""
 
 import os
+import shutil
 import unittest
 
 from controls import Controls
@@ -9,7 +10,7 @@ from session import HIDE_LIST, PANE, SOLO_SORTER, Session, wait_until
 
 # The plug-in of a sanitized build needs a library that this program was not built with.
 PROGRAM = ["env", "LD_PRELOAD=" + os.environ["FOREIGN_HOST_PRELOAD"],
-           "/usr/lib/GNUstep/Applications/SystemPreferences.app/SystemPreferences"]
+           os.path.realpath(shutil.which("SystemPreferences"))]
 FIRST_CHECK_BOX = {"name": "hideAppsTable", "column": "2", "row": 0}
 # AppKit says that it loaded what finds the controls, and the pane that this host has no registrar.
 EXPECTED = ("user defined AppKit bundles", "Loaded '", "ERROR: SorterPlugin is not available!")
@@ -66,8 +67,8 @@ class SystemPreferencesTest(unittest.TestCase):
             self.host.wait_until_idle()
 
     def tab_is_invisible(self):
-        host = self.session.domain_file("SystemPreferences")
-        return host.exists() and self.session.domain("SystemPreferences").get("SorterTabIsInvisible")
+        return any(self.session.domain(file.stem).get("SorterTabIsInvisible")
+                   for file in self.session.defaults.glob("*.plist"))
 
     def show_pane(self):
         self.controls.click(lambda: self.controls.find(name="hideAppsTable"), "the pane", title="Sorter")

@@ -1,5 +1,7 @@
 #include "LoadedPane.h"
 
+#include "defaults/Domains.h"
+
 NSString* const hideListKey = @"UserSpecifiedFullScreenApplications";
 
 void store(id value, NSString* key, NSString* domain) {
@@ -37,6 +39,5 @@ LoadedPane::LoadedPane() : pane(makePane()) {
 LoadedPane::~LoadedPane() {
     [pane release];
     NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
-    [defaults setPersistentDomain:[NSDictionary dictionary]
-                          forName:[[NSProcessInfo processInfo] processName]];
+    [defaults setPersistentDomain:[NSDictionary dictionary] forName:defaults::ownDomain()];
 }

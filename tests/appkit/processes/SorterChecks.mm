@@ -1,4 +1,5 @@
 #include "RealSession.h"
+#include "defaults/Domains.h"
 #include "objc/GSTry.h"
 #include "processes/Session.h"
 
@@ -74,8 +75,9 @@ TEST_F(SorterCheck, LogsWhatItReadAfterEachNotice) {
     execute(sorterExecutable);
     ASSERT_TRUE(logs("started com.quarrybook.Sorter"));
 
-    store([NSNumber numberWithInt:8], @"Sorter.ClipHotKeyCode", @"Quarrybook");
-    store([NSNumber numberWithBool:YES], @"SorterTabIsInvisible", @"Quarrybook");
+    NSString* host = defaults::domainOfApplication(@"Quarrybook", @"com.quarrybook.Quarrybook");
+    store([NSNumber numberWithInt:8], @"Sorter.ClipHotKeyCode", host);
+    store([NSNumber numberWithBool:YES], @"SorterTabIsInvisible", host);
     store([NSDictionary dictionaryWithObject:[NSNumber numberWithBool:YES] forKey:@"Mail"],
           @"UserSpecifiedFullScreenApplications", @"com.quarrybook.Sorter");
     post(@"QBSSorterShortcutKeysChanged", nil);

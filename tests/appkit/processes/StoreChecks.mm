@@ -2,6 +2,7 @@
 #include "appkit/stores/Preferences.h"
 #include "appkit/stores/PropertyLists.h"
 #include "appkit/stores/UserDefaults.h"
+#include "defaults/Domains.h"
 #include "files/DefaultsLock.h"
 #include "files/Owner.h"
 
@@ -67,6 +68,8 @@ protected:
         return platform::entry(contents.value_or(platform::Dictionary()), std::string(key.text));
     }
 
+    [[nodiscard]] static Value inOwnFile() { return inFile({[defaults::ownDomain() UTF8String]}); }
+
     std::unique_ptr<platform::Preferences> preferences = makePreferences();
     AppKitUserDefaults userDefaults;
 };
@@ -98,7 +101,7 @@ TEST_F(StoreCheck, OnlyTheUserCanReadADomain) {
 }
 
 TEST_F(StoreCheck, TheHostsFileIsKeptWhenItIsNoPropertyList) {
-    const platform::ApplicationID host{"RealProcessTests"};
+    const platform::ApplicationID host{[defaults::ownDomain() UTF8String]};
     std::ofstream(fileOf(host)) << "no property list";
 
     userDefaults.setObjectForKey("another text", {"Key"});
@@ -170,7 +173,7 @@ TEST_F(StoreCheck, TheStandardDefaultsWriteUnderALockThatSaysWhoHasIt) {
     // As GNUstep locks it, without an owner.
     fs::create_directories(lock);
     EXPECT_FALSE([defaults synchronize]) << "it cannot be known whether somebody has the lock";
-    EXPECT_FALSE(inFile({"RealProcessTests"}).exists());
+    EXPECT_FALSE(inOwnFile().exists());
 
     fs::create_symlink(files::thisProcess(), lock / "owner");
     fs::last_write_time(lock, fs::file_time_type::clock::now() - std::chrono::hours(1));
@@ -178,14 +181,14 @@ TEST_F(StoreCheck, TheStandardDefaultsWriteUnderALockThatSaysWhoHasIt) {
 
     fs::remove_all(lock);
     EXPECT_TRUE([defaults synchronize]);
-    EXPECT_EQ(inFile({"RealProcessTests"}), Value("under the lock"));
+    EXPECT_EQ(inOwnFile(), Value("under the lock"));
     EXPECT_FALSE(fs::exists(lock));
 }
 
 TEST_F(StoreCheck, WhatWasSetIsSavedByTheRunLoop) {
     userDefaults.setBoolForKey(true, {"Key"});
 
-    EXPECT_TRUE(eventually([] { return inFile({"RealProcessTests"}) == Value(true); }));
+    EXPECT_TRUE(eventually([] { return inOwnFile() == Value(true); }));
 }
 
 TEST_F(StoreCheck, ASaveThatFailedIsMadeAgainByTheRunLoop) {

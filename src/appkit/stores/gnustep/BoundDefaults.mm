@@ -1,6 +1,7 @@
 #include "appkit/stores/gnustep/BoundDefaults.h"
 
 #include "appkit/bridge/Strings.h"
+#include "defaults/Domains.h"
 
 #import <Foundation/Foundation.h>
 #include <objc/runtime.h>
@@ -8,6 +9,7 @@
 #include <filesystem>
 #include <memory>
 #include <system_error>
+#include <tuple>
 
 namespace qbsp::appkit {
 
@@ -28,7 +30,7 @@ Bound& bound() {
 }
 
 std::filesystem::path hostFile(const StoredLists& lists) {
-    return lists.fileOfDomain(utf8([[NSProcessInfo processInfo] processName]));
+    return lists.fileOfDomain(utf8(defaults::ownDomain()));
 }
 
 bool canBeRead(const std::filesystem::path& file) {
@@ -84,6 +86,7 @@ Function replaceMethod(SEL selector, Function function) {
 } // namespace
 
 void boundStandardDefaults(StoredLists& lists) {
+    std::ignore = defaults::ownDomain(); // makes the standard defaults, which call what is replaced below
     bound().by = &lists;
     bound().gnustepsOwn = replaceMethod(@selector(synchronize), synchronizeUnlessItWouldWait);
     // GNUstep waits 66 seconds for a lock, and again for the next file. It does so every half minute, and at

@@ -4,6 +4,7 @@
 #include "appkit/stores/OnceSaved.h"
 #include "appkit/stores/gnustep/BoundDefaults.h"
 #import "appkit/stores/gnustep/QBSPSaver.h"
+#include "defaults/Domains.h"
 
 #include <memory>
 
@@ -51,7 +52,7 @@ StoredLists& storedLists() {
 }
 
 std::filesystem::path hostFile() {
-    return storedLists().fileOfDomain(utf8([[NSProcessInfo processInfo] processName]));
+    return storedLists().fileOfDomain(utf8(defaults::ownDomain()));
 }
 
 void saveSoon() {

@@ -3,6 +3,7 @@
 #include "appkit/bridge/PropertyListConversion.h"
 #include "appkit/bridge/Strings.h"
 #include "appkit/stores/gnustep/Saving.h"
+#include "defaults/Domains.h"
 #include "objc/GSTry.h"
 
 #import <Foundation/Foundation.h>
@@ -16,13 +17,9 @@ namespace {
 // emoji as escapes.
 NSString* const shownDomain = @"com.quarrybook.SorterPane.unsaved";
 
-NSString* hostDomain() {
-    return [[NSProcessInfo processInfo] processName];
-}
-
 void searchShownDomain(NSUserDefaults* defaults) {
     NSMutableArray* list = [[[defaults searchList] mutableCopy] autorelease];
-    const NSUInteger host = [list indexOfObject:hostDomain()];
+    const NSUInteger host = [list indexOfObject:defaults::ownDomain()];
     if ([list containsObject:shownDomain] || host == NSNotFound)
         return;
     [list insertObject:shownDomain atIndex:host];

@@ -5,6 +5,7 @@
 #include "appkit/stores/Preferences.h"
 #include "appkit/stores/PropertyLists.h"
 #include "appkit/stores/UserDefaults.h"
+#include "defaults/Domains.h"
 
 #include <gtest/gtest.h>
 
@@ -47,16 +48,12 @@ private:
     rlimit before_{};
 };
 
-NSString* hostDomain() {
-    return [[NSProcessInfo processInfo] processName];
-}
-
 class AppKitStage final : public StoresStage {
 public:
     ~AppKitStage() override {
         // What a test only set would otherwise be saved during the next.
         EXPECT_TRUE(userDefaults_.synchronize());
-        [[NSUserDefaults standardUserDefaults] removePersistentDomainForName:hostDomain()];
+        [[NSUserDefaults standardUserDefaults] removePersistentDomainForName:defaults::ownDomain()];
         [[NSUserDefaults standardUserDefaults] synchronize];
         for (const auto& file : fs::directory_iterator(folder()))
             if (file.path().extension() == ".plist")
@@ -81,7 +78,7 @@ public:
     }
 
     void otherProcessSetsDefault(const std::string& key, const platform::Value& value) override {
-        otherProcessSets([hostDomain() UTF8String], key, value);
+        otherProcessSets([defaults::ownDomain() UTF8String], key, value);
     }
 
     Dictionary domainSeenByOthers(const std::string& domain) override {
@@ -90,7 +87,9 @@ public:
             .value_or(Dictionary());
     }
 
-    Dictionary defaultsSeenByOthers() override { return domainSeenByOthers([hostDomain() UTF8String]); }
+    Dictionary defaultsSeenByOthers() override {
+        return domainSeenByOthers([defaults::ownDomain() UTF8String]);
+    }
 
     bool flushInVain(const std::function<void()>& set, const std::function<bool()>& flush) override {
         const FullDisk disk;
