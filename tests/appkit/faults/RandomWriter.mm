@@ -44,12 +44,14 @@ public:
     }
 
     [[nodiscard]] bool save() {
-        const std::int64_t began = now();
+        // A save that fails may have written the list all the same.
+        if (firstTry_ == 0)
+            firstTry_ = now();
         const bool sorterIsSaved = preferences_->synchronize(sorter, platform::PreferencesUser::currentUser,
                                                              platform::PreferencesHost::anyHost);
         const bool isSaved = userDefaults_.synchronize() && sorterIsSaved;
         if (isSaved)
-            noteSaved(began);
+            noteSaved();
         return isSaved;
     }
 
@@ -74,17 +76,18 @@ private:
 
     void setList() {
         unsavedList_ = ++model_.listsSet;
+        firstTry_ = 0;
         const std::string name = std::to_string(writer_) + " " + std::to_string(unsavedList_);
         preferences_->setAppValue({listKey}, platform::Dictionary{{name, true}}, sorter);
     }
 
     // What a writer that was killed had set before is gone.
-    void noteSaved(std::int64_t began) {
+    void noteSaved() {
         for (const auto& [saved, value] : std::exchange(unsaved_, {}))
             *saved = value;
         if (unsavedList_ == 0)
             return;
-        model_.list.began = began;
+        model_.list.began = firstTry_;
         model_.list.ended = now();
         model_.list.number = std::exchange(unsavedList_, 0);
     }
@@ -93,6 +96,7 @@ private:
     Model& model_;
     std::map<std::atomic<int>*, int> unsaved_;
     long unsavedList_ = 0;
+    std::int64_t firstTry_ = 0; ///< when the list was first tried to be saved; 0 when it was not yet
     std::minstd_rand random_;
     std::unique_ptr<platform::Preferences> preferences_ = appkit::makePreferences();
     appkit::AppKitUserDefaults userDefaults_;
