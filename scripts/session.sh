@@ -12,16 +12,22 @@ session_start() { # HOME
     trap 'exit 130' INT
     trap 'exit 143' TERM
     mkdir -p "$home/GNUstep/Defaults" "$home/GNUstep/Library/Bundles" "$home/GNUstep/Applications"
-    sed -e "s|^GNUSTEP_USER_CONFIG_FILE=.*|GNUSTEP_USER_CONFIG_FILE=|" \
-        -e "s|^GNUSTEP_USER_DEFAULTS_DIR=.*|GNUSTEP_USER_DEFAULTS_DIR=$home/GNUstep/Defaults|" \
-        -e "s|^GNUSTEP_USER_DIR_LIBRARY=.*|GNUSTEP_USER_DIR_LIBRARY=$home/GNUstep/Library|" \
-        -e "s|^GNUSTEP_USER_DIR_APPS=.*|GNUSTEP_USER_DIR_APPS=$home/GNUstep/Applications|" \
-        /etc/GNUstep/GNUstep.conf >"$session_temp/GNUstep.conf"
+    # GNUstep takes no notice of a configuration that others could write.
+    (umask 077 && session_configuration "$home" >"$session_temp/GNUstep.conf")
     # Access to the user's own display takes the key in the user's own home.
     export XAUTHORITY=${XAUTHORITY-$HOME/.Xauthority}
     export HOME=$home TEMP=$session_temp GNUSTEP_CONFIG_FILE=$session_temp/GNUstep.conf
     export XDG_CONFIG_HOME=$home/.config XDG_DATA_HOME=$home/.local/share XDG_STATE_HOME=$home/.local/state
     export LC_ALL=C.UTF-8
+}
+
+# GNUstep's configuration with the folders of that home.
+session_configuration() { # HOME
+    local folder=${1//\\/\\\\}
+    folder=${folder//\"/\\\"}/GNUstep
+    grep -v -E '^GNUSTEP_USER_(CONFIG_FILE|DEFAULTS_DIR|DIR_LIBRARY|DIR_APPS)=' /etc/GNUstep/GNUstep.conf
+    printf '%s="%s"\n' GNUSTEP_USER_CONFIG_FILE "" GNUSTEP_USER_DEFAULTS_DIR "$folder/Defaults" \
+        GNUSTEP_USER_DIR_LIBRARY "$folder/Library" GNUSTEP_USER_DIR_APPS "$folder/Applications"
 }
 
 # Starts a virtual display with the window manager that GNUstep needs.

@@ -2,7 +2,7 @@
 # setup.sh PURPOSE...: installs the Debian packages that the purposes need and the machine lacks; says so first.
 # Purposes: core (the portable rooms and their tests), house (the house's own rules), application (the plug-in and what
 # it runs in), tests (of the application), coverage, tidy, fuzzing, mutants, package (the Debian package and the checks
-# of it).
+# of it), roots (fresh root file systems of other releases and architectures).
 set -euo pipefail
 
 drawing='^gnustep-back[0-9.]+-cairo$'
@@ -18,13 +18,15 @@ packages_for() {
         ;;
     tests)
         echo googletest python3 clang libclang-rt-dev clang-format doxygen g++-multilib \
-            x11-xkb-utils libxtst-dev xdotool desktop-file-utils systempreferences.app fonts-droid-fallback fonts-symbola
+            x11-xkb-utils libxtst-dev xdotool desktop-file-utils systempreferences.app weston xwayland \
+            fonts-wqy-microhei fonts-symbola
         ;;
     house) echo clang-format doxygen ;;
     coverage) echo gcovr ;;
     tidy) echo clang-tidy ;;
     fuzzing) echo clang libclang-rt-dev libxml2-dev ;;
     mutants) echo git python3-clang ;;
+    roots) echo git mmdebstrap arch-test util-linux ;;
     package) echo dpkg-dev file lintian appstream gzip xz-utils ;;
     *)
         echo "setup.sh: unknown purpose '$1'" >&2

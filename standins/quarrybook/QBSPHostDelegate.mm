@@ -2,6 +2,7 @@
 
 #include "Options.h"
 #import "Picture.h"
+#include "WindowManager.h"
 
 #include <cstdio>
 
@@ -11,6 +12,7 @@ static NSString* const paneName = @"SorterPane.prefPane";
 - (void)makeMenu;
 - (void)loadSorterPlugin;
 - (NSString*)panePath;
+- (void)sayWhatTheDisplayLacks;
 - (void)play;
 - (void)takePictureAndQuit;
 @end
@@ -48,6 +50,7 @@ static NSString* const paneName = @"SorterPane.prefPane";
     }
     preferences = [[QBSPPreferencesWindow alloc] initWithRunner:runner];
     [preferences show];
+    [self sayWhatTheDisplayLacks];
     if (options->scenario)
         [self play];
     else
@@ -81,6 +84,14 @@ static NSString* const paneName = @"SorterPane.prefPane";
     // The application is in build/bin, the pane in build.
     NSString* programs = [[[NSBundle mainBundle] bundlePath] stringByDeletingLastPathComponent];
     return [[programs stringByDeletingLastPathComponent] stringByAppendingPathComponent:paneName];
+}
+
+- (void)sayWhatTheDisplayLacks {
+    if (!quarrybook::hasWindowManager())
+        std::fputs(
+            "Quarrybook: no window manager runs on this display: windows have no frames to move or close "
+            "them by, and may not get the keyboard\n",
+            stderr);
 }
 
 #pragma mark - Scenario and picture

@@ -29,6 +29,15 @@ void removeStaleLock() {
     const files::DefaultsLock lock([GSDefaultsRootForUser(NSUserName()) fileSystemRepresentation], none);
 }
 
+// An application waits for the daemon before it shows anything.
+void sayWhenNoticesHaveNoDaemon() {
+    if ([NSTask launchPathForTool:@"gdnc"] == nil)
+        std::fputs(
+            "Quarrybook: GNUstep's daemon of notifications, gdnc, is not installed: without one that runs "
+            "already, no application can start\n",
+            stderr);
+}
+
 void runApplication(const Options& options) {
     [QBSPQuitRequest hold];
     auto* application = static_cast<QBSPHostApplication*>([QBSPHostApplication sharedApplication]);
@@ -58,6 +67,7 @@ int main(int count, char** words, char** environment) {
     NSAutoreleasePool* pool = [[NSAutoreleasePool alloc] init];
     hideOptionsFromAppKit(words[0], options, environment);
     removeStaleLock();
+    sayWhenNoticesHaveNoDaemon();
     [NSUserDefaults standardUserDefaults]; // must exist before any other instance
     runApplication(options);
     [pool release];

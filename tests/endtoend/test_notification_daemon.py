@@ -4,12 +4,12 @@ in the log."""
 import os
 import re
 import signal
+import sysconfig
 import time
 
 from real_sorter import SorterTest
-from session import HIDE_LIST, SORTER, wait_until
+from session import HIDE_LIST, HOST, SORTER, wait_until
 
-HOST = "Quarrybook"
 LIMIT = 2  # seconds
 STEPS = ("select", "edit 2 0 1", "change note 45 0x100000", "unselect", "wait 60")
 NOTICES = ("QBSSorterShortcutKeysChanged", "QBSSorterPreferencesUpdated", "QBSSorterHideAppUpdated")
@@ -39,6 +39,14 @@ class NotificationDaemonTest(SorterTest):
         lines = self.check_nobody_waits(signal.SIGKILL)
         reason = "could not be posted: the daemon of notifications does not start"
         self.assertEqual(self.logged_errors(lines), [f"ERROR: {notice} {reason}" for notice in NOTICES])
+
+    def test_that_was_never_there_is_named_by_the_host_which_waits_for_it(self):
+        self.make_daemon_missing()
+        host = self.begin("select", "wait 60")
+        self.addCleanup(host.process.wait)
+        self.addCleanup(host.process.kill)
+        wait_until(lambda: "Quarrybook: GNUstep's daemon of notifications, gdnc, is not installed" in host.printed(),
+                   "the line about the daemon", host.printed)
 
     def test_that_is_stopped_is_not_waited_for_when_it_has_no_room_for_more_notices(self):
         changes = [f"change note {45 + number % 2} 0x100000" for number in range(100)]
@@ -82,6 +90,8 @@ class NotificationDaemonTest(SorterTest):
         text = re.sub(r"(?m)^(GNUSTEP_\w+_TOOLS)=.*$", r"\1=/nowhere", configuration.read_text())
         configuration.write_text(text)
         self.session.environment["PATH"] = ""
+        # Some builds of GNUstep run a program to learn this.
+        self.session.environment["DEB_HOST_MULTIARCH"] = sysconfig.get_config_var("MULTIARCH")
 
     def logged_errors(self, lines):
         return [line[line.index("ERROR: "):] for line in lines if "ERROR: " in line]
