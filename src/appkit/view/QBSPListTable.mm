@@ -5,6 +5,7 @@
 #import "appkit/view/QBSPFlagCell.h"
 #import "appkit/view/QBSPNameCell.h"
 #import "appkit/view/QBSPNameFormatter.h"
+#import "appkit/view/TableHeader.h"
 #include "pane/PaneControls.h"
 
 using qbsp::appkit::nsString;
@@ -36,6 +37,7 @@ static NSFont* headerFont() {
     if ((self = [super initWithFrame:frame]) != nil) {
         [self addNameColumn];
         [self addFlagColumn];
+        qbsp::appkit::setUpHeader(self);
         [self setAllowsColumnReordering:NO];
         [self setAllowsMultipleSelection:NO];
         [self setDrawsGrid:NO];

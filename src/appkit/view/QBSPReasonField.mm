@@ -5,7 +5,7 @@
 
 // A borderless cell starts its text that far from its edge.
 static const CGFloat gapBeforeSign = 2;
-static const CGFloat gapBehindSign = 2;
+static const CGFloat gapBehindSign = 4;
 
 @implementation QBSPReasonField
 

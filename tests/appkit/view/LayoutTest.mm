@@ -6,6 +6,7 @@
 #import "appkit/view/TextMeasuring.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 namespace qbsp::appkit {
@@ -124,6 +125,19 @@ TEST_F(Layout, GivesLabelsAndTheirControlsOneBaseline) {
                   baseline(controls().showAtLoginCheckbox, behindTheBox))
             << size;
     }
+}
+
+TEST_F(Layout, GivesTheListsHeaderTheSystemsColorOfHeaders) {
+    NSBitmapImageRep* const bitmap =
+        [NSBitmapImageRep imageRepWithData:shown([controls().hideAppsTable headerView])];
+    NSColor* const expected = [[NSColor headerColor] colorUsingColorSpaceName:NSCalibratedRGBColorSpace];
+    ASSERT_GT(std::abs([expected redComponent] -
+                       [[[NSColor controlShadowColor] colorUsingColorSpaceName:NSCalibratedRGBColorSpace]
+                           redComponent]),
+              0.1);
+
+    EXPECT_NEAR([[[bitmap colorAtX:1 y:1] colorUsingColorSpaceName:NSCalibratedRGBColorSpace] redComponent],
+                [expected redComponent], 0.01);
 }
 
 TEST_F(Layout, FollowsTheSizeOfType) {
