@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # pictures.sh [FOLDER]: makes the pictures of the pane in docs/pictures, or in that folder, with what was built last by
-# ./run or ./test. Each is made by the stand-in host on a virtual display, in a home of its own.
+# ./test. Each is made by the stand-in host on a virtual display, in a home of its own; the sheet beside other panes by
+# an independent host.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/scripts/session.sh"
@@ -19,6 +20,7 @@ picture() { # NAME FONT-SIZE WIDTH HEIGHT LINE...
     session_run "$quarrybook" -NSFontSize "$font" "${options[@]}" --play "$home/scenario" >/dev/null
 }
 
+"$root/scripts/setup.sh" application tests pictures
 session_start "$home"
 trap 'session_end; rm -rf "$home"' EXIT
 session_display
@@ -35,6 +37,9 @@ for language in Arabic Dutch French German Italian Japanese pt_BR SimplifiedChin
     options=("${light_colors[@]}" -NSLanguages "($language, English)")
     picture "language-$language" 12 620 680
 done
+options=("${light_colors[@]}" -Sorter.NoteHotKeyCode 8 -Sorter.NoteHotKeyModifiers 4096
+    -Sorter.ClipHotKeyCode 8 -Sorter.ClipHotKeyModifiers 4096)
+picture equal-hot-keys 12 620 680
 options=("${dark_colors[@]}")
 picture dark-colours 12 620 680 "edit 1 3 0"
 
@@ -47,3 +52,5 @@ options=("${light_colors[@]}")
     printf '</dict></dict></plist>\n'
 } >"$home/GNUstep/Defaults/com.quarrybook.Sorter.plist"
 picture names-of-every-script 12 620 680
+
+"$root/scripts/sheet-of-panes.py" "$pictures/beside-other-panes.png" "${light_colors[@]}"

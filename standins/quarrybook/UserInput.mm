@@ -101,7 +101,7 @@ bool pressKey(NSWindow* window, std::int64_t macKeyCode, std::uint64_t flags) {
     if (key == std::end(keys))
         return false;
     [NSApp sendEvent:keyEvent(NSKeyDown, window, *key, flags)];
-    [NSApp sendEvent:keyEvent(NSKeyUp, window, *key, flags)];
+    [NSApp sendEvent:keyEvent(NSKeyUp, window, *key, 0)];
     return true;
 }
 
