@@ -23,6 +23,7 @@ using namespace qbsp::recorder;
 struct Listener final : RecorderListener {
     bool taken = false;
     bool refusalShown = false;
+    bool saysUsedElsewhere = false;
     int refusals = 0;
     std::optional<KeyCombo> reported;
 
@@ -37,6 +38,8 @@ struct Listener final : RecorderListener {
     }
 
     void refusalPassed() override { refusalShown = false; }
+
+    void usedElsewhere(bool isUsed) override { saysUsedElsewhere = isUsed; }
 
     void comboChanged(const KeyCombo& combo) override {
         require(!reported, "one event reports one combination");
@@ -88,6 +91,20 @@ public:
         require(!logic_.isArmed() && !holdsKey(logic_.combo()), "it is idle and empty");
     }
 
+    void review(bool taken) {
+        begin(taken);
+        logic_.review();
+        require(listener_.saysUsedElsewhere == (taken && holdsKey(before_)), "a review says what is so");
+        require(!listener_.reported && logic_.combo() == before_, "a review changes nothing");
+    }
+
+    void hold(CocoaFlags flags) {
+        begin(false);
+        logic_.setHeldModifiers(flags);
+        require(logic_.heldModifiers() == (wasArmed_ ? flags & modifiers::all : 0),
+                "modifiers wait for a key while it listens");
+    }
+
     void check() const {
         const KeyCombo& combo = logic_.combo();
         require(combo == normalized(combo), "its combination is whole or empty");
@@ -95,8 +112,11 @@ public:
             return std::string();
         };
         if (!holdsKey(combo))
-            require(comboInSymbols(combo, nothing).empty() && comboInWords(combo, nothing).empty(),
+            require(comboText(combo, macSymbols(), nothing).empty() &&
+                        comboText(combo, pcWords({"Ctrl", "Alt", "Shift", "Super"}), nothing).empty(),
                     "the empty combination shows nothing");
+        require(logic_.isArmed() || logic_.heldModifiers() == 0, "no modifier waits in an idle recorder");
+        require(holdsKey(combo) || !listener_.saysUsedElsewhere, "no combination is used nowhere");
         require(logic_.isArmed() || !listener_.refusalShown, "an idle recorder shows no refusal");
     }
 
@@ -183,6 +203,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             recorder.clear();
         else if (event == 3 || event == 9)
             recorder.set({flags, key});
+        else if (event == 7)
+            recorder.hold(flags);
+        else if (event == 6)
+            recorder.review(yes);
         else if (event == 4)
             recorder.press({key, flags, true}, yes);
         else if (event == 5)
