@@ -90,8 +90,8 @@ static const CGFloat barPadding = 6;
     NSSize size = smallestButtonSize;
     for (NSButton* button in buttons) {
         const NSSize needed = [[button cell] cellSize];
-        size.width = MAX(size.width, ceil(needed.width) + 2 * buttonPadding);
-        size.height = MAX(size.height, ceil(needed.height));
+        size.width = MAX(size.width, (CGFloat)ceil(needed.width) + 2 * buttonPadding);
+        size.height = MAX(size.height, (CGFloat)ceil(needed.height));
     }
     CGFloat x = firstButtonX;
     for (NSButton* button in buttons) {

@@ -4,14 +4,14 @@ namespace qbsp::appkit {
 
 namespace {
 
-/// Places in a rectangle, by the shares of its width from the left and of its height from the top.
+/// Places in a rectangle, by the percentages of its width from the left and of its height from the top.
 class Grid {
 public:
     Grid(NSRect rect, bool isFlipped) : rect_(rect), isFlipped_(isFlipped) {}
 
     [[nodiscard]] NSPoint point(CGFloat across, CGFloat down) const {
-        const CGFloat y = NSHeight(rect_) * down;
-        return NSMakePoint(NSMinX(rect_) + NSWidth(rect_) * across,
+        const CGFloat y = NSHeight(rect_) * down / 100;
+        return NSMakePoint(NSMinX(rect_) + NSWidth(rect_) * across / 100,
                            isFlipped_ ? NSMinY(rect_) + y : NSMaxY(rect_) - y);
     }
 
@@ -22,9 +22,9 @@ private:
 
 NSBezierPath* triangle(const Grid& grid) {
     NSBezierPath* path = [NSBezierPath bezierPath];
-    [path moveToPoint:grid.point(0.5, 0.06)];
-    [path lineToPoint:grid.point(0.96, 0.92)];
-    [path lineToPoint:grid.point(0.04, 0.92)];
+    [path moveToPoint:grid.point(50, 6)];
+    [path lineToPoint:grid.point(96, 92)];
+    [path lineToPoint:grid.point(4, 92)];
     [path closePath];
     [path setLineJoinStyle:NSRoundLineJoinStyle];
     return path;
@@ -32,10 +32,10 @@ NSBezierPath* triangle(const Grid& grid) {
 
 void drawExclamationMark(const Grid& grid, CGFloat width) {
     NSBezierPath* path = [NSBezierPath bezierPath];
-    [path moveToPoint:grid.point(0.5, 0.36)];
-    [path lineToPoint:grid.point(0.5, 0.62)];
-    [path moveToPoint:grid.point(0.5, 0.72)];
-    [path lineToPoint:grid.point(0.5, 0.82)];
+    [path moveToPoint:grid.point(50, 36)];
+    [path lineToPoint:grid.point(50, 62)];
+    [path moveToPoint:grid.point(50, 72)];
+    [path lineToPoint:grid.point(50, 82)];
     [path setLineWidth:width];
     [path stroke];
 }
@@ -52,7 +52,7 @@ void drawWarningSign(NSRect rect, bool isFlipped) {
     [shape fill];
     [[NSColor blackColor] set];
     [shape stroke];
-    drawExclamationMark(grid, line * 1.3);
+    drawExclamationMark(grid, line * 13 / 10);
 }
 
 } // namespace qbsp::appkit
