@@ -30,18 +30,27 @@ class WaylandSession(Session):
 
     def _start_window_manager(self):
         super()._start_window_manager()
+        self.screen = self.environment["DISPLAY"]
+        (self.folder / "wayland").mkdir(mode=0o700)
+        self.start_compositor()
+
+    def start_compositor(self):
+        """Starts it unless it runs: weston 14 crashes now and then."""
+        self.environment["DISPLAY"] = wait_until(self._xwayland, "Xwayland", lambda: self.compositor.poll())[1]
+
+    def _xwayland(self):
         folder = self.folder / "wayland"
-        folder.mkdir(mode=0o700)
         log = folder / "log"
+        if self.compositor and self.compositor.poll() is None:
+            return re.search("listening on display (:[0-9]+)", log.read_text() if log.exists() else "")
+        log.unlink(missing_ok=True)
         # The usual shell of weston 14 crashes on GNUstep's windows.
         command = ["weston", "--backend=x11-backend.so", "--use-pixman", "--shell=kiosk-shell.so", "--xwayland",
                    "--no-config", "--width=1200", "--height=900", f"--log={log}"]
         self.compositor = subprocess.Popen(
-            command, env=os.environ | {"XDG_RUNTIME_DIR": str(folder), "DISPLAY": self.environment["DISPLAY"]},
+            command, env=os.environ | {"XDG_RUNTIME_DIR": str(folder), "DISPLAY": self.screen},
             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        display = wait_until(lambda: log.exists() and re.search("listening on display (:[0-9]+)", log.read_text()),
-                             "Xwayland", lambda: f"status {self.compositor.poll()}")
-        self.environment["DISPLAY"] = display[1]
+        return None
 
     def end(self):
         if self.compositor:
@@ -75,8 +84,11 @@ class DesktopTest(unittest.TestCase):
         printed = []
 
         def tick():
+            self.session.start_compositor()
             # The click counts only once the compositor has given the window the focus.
-            printed.extend(Host.playing(self.session, "select", "wait 0.5", "edit 2 0 1", "unselect").finish())
+            host = Host.playing(self.session, "select", "wait 0.5", "edit 2 0 1", "unselect")
+            host.process.wait()
+            printed.extend(host.lines())
             return True
 
         act_until(tick, self.is_saved, "the tick to be saved", lambda: printed)
@@ -108,7 +120,8 @@ class DesktopTest(unittest.TestCase):
         for path in (self.session.folder, self.session.home, self.session.temp):
             subprocess.run(["chown", "-R", f"{NOBODY}:{NOBODY}", path], check=True)
         # GNUstep must find the folder that it is started in.
-        return ["env", f"--chdir={self.session.folder}", "setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
+        return ["env", f"--chdir={self.session.folder}", "setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}",
+                "--clear-groups"]
 
 
 if __name__ == "__main__":
