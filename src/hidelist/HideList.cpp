@@ -1,6 +1,7 @@
 #include "hidelist/HideList.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace qbsp {
 
@@ -51,9 +52,13 @@ platform::Dictionary HideList::hideFlags() const {
 }
 
 void HideList::sort() {
-    std::ranges::stable_sort(records_, [this](const auto& first, const auto& second) {
-        return std::is_lt(compareStringUsingSelector(*first, *second, strings_));
-    });
+    std::vector<std::string_view> names;
+    for (const auto& record : records_)
+        names.push_back(record->appName);
+    Records sorted;
+    for (const std::size_t place : strings_.order(names))
+        sorted.push_back(records_[place]);
+    records_ = std::move(sorted);
 }
 
 } // namespace qbsp
