@@ -18,9 +18,8 @@ void makeText(NSTextField* text, NSTextAlignment alignment, NSFont* font) {
     [[text cell] setWraps:YES];
 }
 
-QBSPButton* makeButton(NSButtonType type) {
+QBSPButton* makeButton() {
     QBSPButton* button = [[[QBSPButton alloc] initWithFrame:NSZeroRect] autorelease];
-    [button setButtonType:type];
     [button setTitle:@""];
     [button setFont:controlFont()];
     // The form draws the ring.
@@ -49,14 +48,14 @@ QBSPReasonField* makeReasonField() {
 }
 
 QBSPButton* makeCheckBox() {
-    QBSPButton* checkBox = makeButton(NSSwitchButton);
-    [checkBox setImagePosition:NSImageLeft];
-    setCheckBoxImages([checkBox cell], controlFont());
+    QBSPButton* checkBox = makeButton();
+    makeCheckBox([checkBox cell], controlFont());
     return checkBox;
 }
 
 QBSPButton* makePushButton() {
-    QBSPButton* button = makeButton(NSMomentaryPushInButton);
+    QBSPButton* button = makeButton();
+    [button setButtonType:NSMomentaryPushInButton];
     [button setBezelStyle:NSRoundedBezelStyle];
     return button;
 }

@@ -76,9 +76,7 @@ static NSFont* headerFont() {
 
 - (void)addFlagColumn {
     QBSPFlagCell* cell = [[[QBSPFlagCell alloc] initTextCell:@""] autorelease];
-    [cell setButtonType:NSSwitchButton];
-    [cell setImagePosition:NSImageOnly];
-    qbsp::appkit::setCheckBoxImages(cell, qbsp::appkit::controlFont());
+    qbsp::appkit::makeBareCheckBox(cell, qbsp::appkit::controlFont());
     NSTableColumn* column = [self addColumn:nsString(qbsp::flagColumn.text) cell:cell];
     [column setResizingMask:NSTableColumnNoResizing];
     [[column headerCell] setAlignment:NSCenterTextAlignment];

@@ -3,6 +3,14 @@
 namespace qbsp::appkit {
 
 // The system's own box fits.
-void setCheckBoxImages(NSButtonCell*, NSFont*) {}
+void makeCheckBox(NSButtonCell* cell, NSFont*) {
+    [cell setButtonType:NSSwitchButton];
+    [cell setImagePosition:NSImageLeft];
+}
+
+void makeBareCheckBox(NSButtonCell* cell, NSFont*) {
+    [cell setButtonType:NSSwitchButton];
+    [cell setImagePosition:NSImageOnly];
+}
 
 } // namespace qbsp::appkit

@@ -35,13 +35,29 @@ NSImage* boxImage(CGFloat size, CGFloat gap, bool isTicked) {
     return image;
 }
 
-} // namespace
-
-void setCheckBoxImages(NSButtonCell* cell, NSFont* font) {
+// What a cell becomes as an NSSwitchButton, but for the system's two images: GNUstep looks for their files in
+// thousands of places.
+void makeSwitch(NSButtonCell* cell, NSFont* font, NSCellImagePosition position, CGFloat gap) {
     const CGFloat size = std::round([font pointSize] * sizeInFont);
-    const CGFloat gap = [cell imagePosition] == NSImageOnly ? 0 : gapBeforeTitle;
+    [cell setHighlightsBy:NSContentsCellMask];
+    [cell setShowsStateBy:NSContentsCellMask];
+    [cell setImageDimsWhenDisabled:NO];
+    [cell setAlignment:NSLeftTextAlignment];
+    [cell setBordered:NO];
+    [cell setBezeled:NO];
+    [cell setImagePosition:position];
     [cell setImage:boxImage(size, gap, false)];
     [cell setAlternateImage:boxImage(size, gap, true)];
+}
+
+} // namespace
+
+void makeCheckBox(NSButtonCell* cell, NSFont* font) {
+    makeSwitch(cell, font, NSImageLeft, gapBeforeTitle);
+}
+
+void makeBareCheckBox(NSButtonCell* cell, NSFont* font) {
+    makeSwitch(cell, font, NSImageOnly, 0);
 }
 
 } // namespace qbsp::appkit
