@@ -59,9 +59,11 @@ std::error_code removeLock(const fs::path& lock, ino_t number) {
 
     if (lstat(away.c_str(), &status) == 0 && status.st_ino != number)
         return moveTo(away, lock);
-    // What stays of it is no lock any more, and goes with the leftovers.
+    // What stays of it is no lock any more, and goes with the leftovers. Nearly all hold their owner alone.
     std::error_code ignored;
-    fs::remove_all(away, ignored);
+    unlink((away / ownerName).c_str());
+    if (rmdir(away.c_str()) != 0)
+        fs::remove_all(away, ignored);
     return {};
 }
 

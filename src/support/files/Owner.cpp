@@ -40,11 +40,21 @@ std::optional<Number> takeNumber(std::string_view& text) {
 } // namespace
 
 std::string thisProcess() {
+    // A save needs it five times, and a forked process is another one.
+    thread_local std::string known;
+    thread_local pid_t knownFor = 0;
+    if (knownFor == getpid())
+        return known;
     const auto process = processes::processOfNumber(getpid());
     // A start that cannot be read now leaves the process unknown to others: 0 would be taken for an earlier
     // one.
     const std::string start = process ? std::to_string(process->start) : "unknown";
-    return std::to_string(getpid()) + "-" + start + "-" + realm();
+    const std::string text = std::to_string(getpid()) + "-" + start + "-" + realm();
+    if (lifeOf(text) == Life::alive) {
+        known = text;
+        knownFor = getpid();
+    }
+    return text;
 }
 
 Life lifeOf(std::string_view process) {
