@@ -12,7 +12,7 @@
 
 namespace qbsp {
 
-/// Orders two rows by name, ignoring case.
+/// Orders two rows by name, ignoring case: the order of the list.
 [[nodiscard]] std::weak_ordering compareStringUsingSelector(const HideAppInfo& first,
                                                             const HideAppInfo& second,
                                                             const platform::StringComparison& strings);
