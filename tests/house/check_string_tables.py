@@ -2,7 +2,8 @@
 """check_string_tables.py ROOT: checks that each language's string tables have exactly the keys that are looked up.
 
 The code looks up the constants of type TextKey that it uses, and the texts that the Objective-C++ shell asks for in
-place; a host looks up what it shows of the plug-in's description. Prints each missing, unused or duplicate key, and each line that is not an entry; exits with 1 if there is one.
+place; a host looks up what it shows of the plug-in's description. Prints each missing, unused or duplicate key, each text that has other
+placeholders than its key, and each line that is not an entry; exits with 1 if there is one.
 """
 
 import codecs
@@ -14,7 +15,7 @@ import sys
 STRING = r'"(?:[^"\\]|\\.)*"'
 CONSTANT = re.compile(rf"TextKey (\w+)\{{\s*((?:{STRING}\s*)+)\}}")
 TEXT_IN_PLACE = re.compile(rf"(?:localized\(|localizedStringForKey:)\s*((?:@?{STRING}\s*)+)")
-ENTRY_OR_COMMENT = re.compile(rf"/\*.*?\*/|//[^\n]*|({STRING})\s*=\s*{STRING}\s*;", re.DOTALL)
+ENTRY_OR_COMMENT = re.compile(rf"/\*.*?\*/|//[^\n]*|({STRING})\s*=\s*({STRING})\s*;", re.DOTALL)
 OF_HOSTS = {"NSPrefPaneIconLabel"}
 ESCAPES = {"n": "\n", "t": "\t", "r": "\r"}
 
@@ -46,10 +47,13 @@ def complaints(table, expected):
 
 
 def wrong_entries(text, expected):
-    keys = collections.Counter(unescaped(entry[1]) for entry in ENTRY_OR_COMMENT.finditer(text) if entry[1])
+    entries = [(unescaped(entry[1]), entry[2]) for entry in ENTRY_OR_COMMENT.finditer(text) if entry[1]]
+    keys = collections.Counter(key for key, _ in entries)
     yield from (f"missing key: {key!r}" for key in sorted(expected - keys.keys()))
     yield from (f"unused key: {key!r}" for key in sorted(keys.keys() - expected))
     yield from (f"key has {times} entries: {key!r}" for key, times in sorted(keys.items()) if times > 1)
+    yield from (f"other placeholders than the key: {key!r}" for key, text_shown in entries
+                if key.count("%@") != text_shown.count("%@"))
     rest = ENTRY_OR_COMMENT.sub("", text)
     yield from (f"neither entry nor comment: {line.strip()!r}" for line in rest.splitlines() if line.strip())
 
