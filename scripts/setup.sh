@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # setup.sh PURPOSE...: installs the Debian packages that the purposes need and the machine lacks; says so first.
 # Purposes: core (the portable rooms and their tests), house (the house's own rules), application (the plug-in and what
-# it runs in), tests (of the application), pictures (of the pane), coverage, tidy, fuzzing, mutants, package (the Debian
-# package and the checks of it), roots (fresh root file systems of other releases and architectures).
+# it runs in), tests (of the application), pictures (of the pane), coverage, tidy, fuzzing, mutants, benchmark, package
+# (the Debian package and the checks of it), roots (fresh root file systems of other releases and architectures).
 set -euo pipefail
 
 drawing='^gnustep-back[0-9.]+-cairo$'
@@ -28,6 +28,7 @@ packages_for() {
     mutants) echo git python3-clang ;;
     roots) echo git mmdebstrap arch-test util-linux ;;
     pictures) echo imagemagick ;;
+    benchmark) echo libbenchmark-dev gnuplot-nox python3 systempreferences.app ;;
     package) echo dpkg-dev file lintian appstream gzip xz-utils ;;
     *)
         echo "setup.sh: unknown purpose '$1'" >&2

@@ -49,7 +49,7 @@ std::string thisProcess() {
     // A start that cannot be read now leaves the process unknown to others: 0 would be taken for an earlier
     // one.
     const std::string start = process ? std::to_string(process->start) : "unknown";
-    const std::string text = std::to_string(getpid()) + "-" + start + "-" + realm();
+    std::string text = std::to_string(getpid()) + "-" + start + "-" + realm();
     if (lifeOf(text) == Life::alive) {
         known = text;
         knownFor = getpid();

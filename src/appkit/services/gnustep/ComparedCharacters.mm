@@ -198,8 +198,7 @@ std::u16string ComparedCharacters::take() {
 }
 
 std::string_view ComparedCharacters::takeASCII() {
-    const auto end = std::ranges::find_if_not(text_, isASCII);
-    auto length = static_cast<std::size_t>(end - text_.begin());
+    auto length = static_cast<std::size_t>(std::ranges::find_if_not(text_, isASCII) - text_.begin());
     if (beginsWithMark(text_.substr(length)) && length > 0)
         --length;
     const std::string_view taken = text_.substr(0, length);
