@@ -2,8 +2,8 @@
 """check_string_tables.py ROOT: checks that each language's string tables have exactly the keys that are looked up.
 
 The code looks up the constants of type TextKey that it uses, and the texts that the Objective-C++ shell asks for in
-place; a host looks up what it shows of the plug-in's description. Prints each missing, unused or duplicate key, each text that has other
-placeholders than its key, and each line that is not an entry; exits with 1 if there is one.
+place; a host looks up what it shows of the plug-in's description. Prints each missing, unused or duplicate key, each text
+that has other placeholders than its key, and each line that is not an entry; exits with 1 if there is one.
 """
 
 import codecs
