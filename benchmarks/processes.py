@@ -24,7 +24,8 @@ TIME_TO_SETTLE = 3  # seconds
 
 
 def store_list(session, rows):
-    session.set_domain(SOLO_SORTER, {HIDE_LIST: {f"Application {row * 7919 % rows}": row % 3 == 0 for row in range(rows)}})
+    flags = {f"Application {row * 7919 % rows}": row % 3 == 0 for row in range(rows)}
+    session.set_domain(SOLO_SORTER, {HIDE_LIST: flags})
 
 
 def opened(session, pane, *options):
@@ -38,9 +39,8 @@ def opened(session, pane, *options):
 
 def medians(runs):
     """The median of each step, and of all together."""
-    steps = {step: tuple(statistics.median(run[step][kind] for run in runs) for kind in (0, 1)) for step in runs[0]}
-    steps["all"] = tuple(statistics.median(sum(times[kind] for times in run.values()) for run in runs) for kind in (0, 1))
-    return steps
+    runs = [run | {"all": tuple(map(sum, zip(*run.values())))} for run in runs]
+    return {step: tuple(map(statistics.median, zip(*(run[step] for run in runs)))) for step in runs[0]}
 
 
 def other_panes():

@@ -56,6 +56,7 @@ void HideList::sort() {
     for (const auto& record : records_)
         names.push_back(record->appName);
     Records sorted;
+    sorted.reserve(records_.size());
     for (const std::size_t place : strings_.order(names))
         sorted.push_back(records_[place]);
     records_ = std::move(sorted);
