@@ -1,7 +1,6 @@
 #include "Stores.h"
 
 #include "Description.h"
-#include "defaults/Domains.h"
 #include "xdg/UserFolders.h"
 
 #include <array>
@@ -18,17 +17,22 @@ const std::array<NSString*, 4> hotKeyKeys{@"Sorter.ClipHotKeyCode", @"Sorter.Cli
                                           @"Sorter.NoteHotKeyCode", @"Sorter.NoteHotKeyModifiers"};
 
 // Only a new instance sees what another process wrote.
-id valueInDomain(NSString* domain, NSString* key) {
+NSDictionary* contentsOfDomain(NSString* domain) {
     NSUserDefaults* defaults = [[[NSUserDefaults alloc] init] autorelease];
     [defaults synchronize];
-    return [[defaults persistentDomainForName:domain] objectForKey:key];
+    return [defaults persistentDomainForName:domain];
 }
 
-// The host says who it is by the name of its process, and its domain may be named in another way.
+id valueInDomain(NSString* domain, NSString* key) {
+    return [contentsOfDomain(domain) objectForKey:key];
+}
+
+// The host says who it is by the name of its process. Later releases of GNUstep name its domain by its
+// bundle.
 NSString* domainOf(NSString* host) {
-    NSString* const quarrybook = @"Quarrybook";
-    return [host isEqual:quarrybook] ? defaults::domainOfApplication(quarrybook, @"com.quarrybook.Quarrybook")
-                                     : host;
+    NSString* identifier = @"com.quarrybook.Quarrybook";
+    const bool isNamedByBundle = [host isEqual:@"Quarrybook"] && contentsOfDomain(identifier) != nil;
+    return isNamedByBundle ? identifier : host;
 }
 
 std::string reading(NSString* key, id value) {

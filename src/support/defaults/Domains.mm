@@ -23,8 +23,4 @@ NSString* ownDomain() {
     return domain;
 }
 
-NSString* domainOfApplication(NSString* process, NSString* identifier) {
-    return [ownDomain() isEqual:[[NSBundle mainBundle] bundleIdentifier]] ? identifier : process;
-}
-
 } // namespace defaults

@@ -1,5 +1,4 @@
 #include "RealSession.h"
-#include "defaults/Domains.h"
 #include "objc/GSTry.h"
 #include "processes/Session.h"
 
@@ -75,7 +74,7 @@ TEST_F(SorterCheck, LogsWhatItReadAfterEachNotice) {
     execute(sorterExecutable);
     ASSERT_TRUE(logs("started com.quarrybook.Sorter"));
 
-    NSString* host = defaults::domainOfApplication(@"Quarrybook", @"com.quarrybook.Quarrybook");
+    NSString* host = @"Quarrybook";
     store([NSNumber numberWithInt:8], @"Sorter.ClipHotKeyCode", host);
     store([NSNumber numberWithBool:YES], @"SorterTabIsInvisible", host);
     store([NSDictionary dictionaryWithObject:[NSNumber numberWithBool:YES] forKey:@"Mail"],
