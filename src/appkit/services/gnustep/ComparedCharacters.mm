@@ -86,15 +86,13 @@ void orderMarks(std::u16string& units) {
 }
 
 void makeComparable(std::u16string& units) {
+    const bool endsWithZero = std::ranges::any_of(units, isLookedAt);
     if (units.size() > 1 || unitOf(units.front()).hasParts) {
-        const bool hasZero = std::ranges::any_of(units, isLookedAt);
         replaceByParts(units);
         orderMarks(units);
-        if (hasZero)
-            units += u'\0';
-    } else if (isLookedAt(units.front())) {
-        units += u'\0';
     }
+    if (endsWithZero)
+        units += u'\0';
     for (char16_t& unit : units)
         unit = unitOf(unit).lower;
 }
