@@ -219,8 +219,10 @@ private:
         Dictionary entries;
         for (Offset index = 0; index < count; ++index) {
             const Value key = readReference(place, index, depth);
+            if (key.as<std::string>() == nullptr)
+                return {};
             Value value = readReference(place, count + index, depth);
-            if (key.as<std::string>() == nullptr || !value.exists())
+            if (!value.exists())
                 return {};
             entries.insert_or_assign(*key.as<std::string>(), std::move(value));
         }
