@@ -77,7 +77,7 @@ versions() {
     in_root sh -c '
         echo "Debian $(cat /etc/debian_version), $(dpkg --print-architecture)"
         dpkg-query -W -f "\${Package} \${Version}\n" cmake g++ clang gnustep-make "libgnustep-base[0-9]*" \
-            "libgnustep-gui[0-9]*" 2>/dev/null'
+            "libgnustep-gui[0-9]*" 2>/dev/null || true'
 }
 
 tell() { # COMMAND STATUS
