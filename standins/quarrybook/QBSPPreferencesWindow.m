@@ -86,18 +86,15 @@ static const CGFloat barPadding = 6;
 
 // Side by side, all as large as the largest, which follows the system font.
 - (void)placeButtons {
-    NSArray* buttons = [NSArray arrayWithObjects:generalButton, sorterButton, nil];
-    NSSize size = smallestButtonSize;
-    for (NSButton* button in buttons) {
-        const NSSize needed = [[button cell] cellSize];
-        size.width = MAX(size.width, (CGFloat)ceil(needed.width) + 2 * buttonPadding);
-        size.height = MAX(size.height, (CGFloat)ceil(needed.height));
-    }
-    CGFloat x = firstButtonX;
-    for (NSButton* button in buttons) {
-        [button setFrame:NSMakeRect(x, firstSize.height - barPadding - size.height, size.width, size.height)];
-        x += size.width + buttonGap;
-    }
+    const NSSize generalSize = [[generalButton cell] cellSize];
+    const NSSize sorterSize = [[sorterButton cell] cellSize];
+    const CGFloat widest = (CGFloat)ceil(MAX(generalSize.width, sorterSize.width)) + 2 * buttonPadding;
+    const CGFloat highest = (CGFloat)ceil(MAX(generalSize.height, sorterSize.height));
+    const CGFloat width = MAX(smallestButtonSize.width, widest);
+    const CGFloat height = MAX(smallestButtonSize.height, highest);
+    const CGFloat y = firstSize.height - barPadding - height;
+    [generalButton setFrame:NSMakeRect(firstButtonX, y, width, height)];
+    [sorterButton setFrame:NSMakeRect(firstButtonX + width + buttonGap, y, width, height)];
 }
 
 - (CGFloat)barHeight {
