@@ -21,6 +21,12 @@ report() { # NAME OPTION...
     gcovr --root "$root" --add-tracefile "$counts" "${branches[@]}" --txt --print-summary "$@"
 }
 
+# Sources that have gone leave objects and notes behind, and notes of what is not there cannot be reported.
+ninja -C "$build" -t cleandead >/dev/null
+find "$build" -name '*.gcno' | while read -r notes; do
+    [ -e "${notes%.gcno}.o" ] || rm "$notes"
+done
+
 # Some programs compile pieces of the core once more, with branches that are numbered in another way.
 count core "$root/src/($core_rooms)/" --exclude-directories '.*/tests/(appkit|propertylists|walks)'
 count shell "$root/src/(appkit|propertylists|support)/"
