@@ -109,5 +109,7 @@ session_end() {
         kill "$session_server" 2>/dev/null || true
         wait "$session_server" 2>/dev/null || true
     fi
+    # A process that was just being started had no environment for a moment, and shows up now.
+    session_signal KILL $(session_processes)
     rm -rf "$session_temp"
 }

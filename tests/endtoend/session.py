@@ -22,6 +22,7 @@ HIDE_LIST = "UserSpecifiedFullScreenApplications"
 LIMIT = 20  # seconds
 ATTEMPT = 2  # seconds in which a click or a key that was not lost has its effect
 TIME_BETWEEN_LOOKS = 0.02
+LOOKS_AT_A_CLEARED_SESSION = 3
 LOOKS_AT_AN_IDLE_PROCESS = 5
 TIME_OF_AN_IDLE_PROCESS = 0.01  # seconds that it runs between these looks: it may have a timer
 WINDOW_MANAGER = pathlib.Path(__file__).resolve().parents[2] / "scripts/openbox.xml"
@@ -187,12 +188,17 @@ class Session:
         return [process for process in self.living() if read_process_file(process, "comm").strip() == name]
 
     def end(self):
-        # A process that is just being started shows up only after the first look.
-        wait_until(self._is_cleared, "the end of all processes of the session", self.living)
+        # A process that is just being started has no environment for a moment, and shows up only at a later look.
+        looks = []
+        wait_until(lambda: self._is_clear_again(looks), "the end of all processes of the session", self.living)
         for program in filter(None, (self.manager, self.server)):
             program.kill()
             program.wait()
         shutil.rmtree(self.folder)
+
+    def _is_clear_again(self, looks):
+        looks.append(self._is_cleared())
+        return len(looks) >= LOOKS_AT_A_CLEARED_SESSION and all(looks[-LOOKS_AT_A_CLEARED_SESSION:])
 
     def _is_cleared(self):
         living = self.living()
