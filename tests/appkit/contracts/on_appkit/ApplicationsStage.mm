@@ -70,7 +70,11 @@ public:
         awaitLaunch();
     }
 
-    void end(const std::vector<std::shared_ptr<platform::TerminationObserver>>&) override { endAll(); }
+    void end(const std::vector<std::shared_ptr<platform::TerminationObserver>>&) override {
+        // One that was launched just now is found only once its program runs.
+        EXPECT_TRUE(eventually([] { return !processes::runningApplications(identifier).empty(); }));
+        endAll();
+    }
 
     bool eventually(const std::function<bool()>& condition) override {
         return contracts::eventually(condition);
