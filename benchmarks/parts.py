@@ -23,7 +23,7 @@ def run(expression, repetitions, homes=IN_MEMORY, shortest=0.03):
     for each in json.loads(output)["benchmarks"]:
         if each.get("error_occurred"):
             raise RuntimeError(f"{each['name']}: {each['error_message']}")
-        if each.get("aggregate_name", "median") == "median":  # there is none of a single run
+        if each.get("aggregate_name", "median") == "median":  # a single run has no aggregates
             figures[key(each["run_name"])] = {name: each[name] for name in ("cpu_time", "real_time", "bytes_per_row")
                                               if name in each}
     return figures
