@@ -272,8 +272,8 @@ TEST_F(WorkspaceCheck, SleepsWhileNothingStartsOrEnds) {
     workspace.addObserver(observer, didTerminate);
     settle();
 
-    // What was posted before may still arrive, and what was served to a notification daemon that died is counted
-    // down by GNUstep for five seconds. What would go on does so in each of ten.
+    // What was posted before may still arrive, and what was served to a notification daemon that died is
+    // counted down by GNUstep for five seconds. What would go on does so in each of ten.
     int fewest = wakeUpsInASecond();
     for (int again = 0; again < 9 && fewest > 0; ++again)
         fewest = std::min(fewest, wakeUpsInASecond());
