@@ -1,8 +1,20 @@
-# Precompiles AppKit and further system headers for the target's Objective-C++ sources.
+# Precompiles AppKit, for Objective-C++, and further system headers for the target's sources. It takes seconds, so that
+# targets of one folder at the project's root, which are compiled alike, share what the first of them precompiled.
 #   precompile_appkit(<target> <header>...)
 function(precompile_appkit target)
-    set(headers AppKit/AppKit.h functional memory optional string vector ${ARGN})
-    foreach(header IN LISTS headers)
-        target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:OBJCXX>:<${header}$<ANGLE-R>>")
-    endforeach()
+    file(RELATIVE_PATH folder "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
+    string(REGEX REPLACE "/.*" "" folder "${folder}")
+    get_property(first GLOBAL PROPERTY APPKIT_PRECOMPILED_IN_${folder})
+    if(first)
+        target_precompile_headers(${target} REUSE_FROM ${first})
+        return()
+    endif()
+    set_property(GLOBAL PROPERTY APPKIT_PRECOMPILED_IN_${folder} ${target})
+    set(headers functional memory optional string vector ${ARGN})
+    list(TRANSFORM headers REPLACE "(.+)" "$<$<COMPILE_LANGUAGE:CXX,OBJCXX>:<\\1$<ANGLE-R>>")
+    target_precompile_headers(${target} PRIVATE "$<$<COMPILE_LANGUAGE:OBJCXX>:<AppKit/AppKit.h$<ANGLE-R>>" ${headers})
+    # CMake precompiles for the languages of the first alone, and others may have C++ where it has none.
+    set(empty "${CMAKE_CURRENT_BINARY_DIR}/Empty.cpp")
+    file(CONFIGURE OUTPUT "${empty}" CONTENT "")
+    target_sources(${target} PRIVATE "${empty}")
 endfunction()
