@@ -35,11 +35,13 @@ if(SORTERPANE_32_BIT)
     add_link_options(-m32)
 endif()
 
-# Has a program run under the sanitizers in an ordinary build as well; not where branches are counted, because the
-# sanitizers add branches of their own.
+# Has a target run under the sanitizers in an ordinary build as well, compiled with further options; not where branches
+# are counted, because the sanitizers add branches of their own.
+#   sanitize(<target> <option>...)
 function(sanitize target)
     if(NOT SORTERPANE_CHECKS STREQUAL "coverage")
-        target_compile_options(${target} PRIVATE -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all)
+        target_compile_options(
+            ${target} PRIVATE -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all ${ARGN})
         target_link_options(${target} PRIVATE -fsanitize=address,undefined)
     endif()
 endfunction()
