@@ -133,7 +133,7 @@ private:
 
 TEST(CrashWalk, FindsWhatWasSynchronizedAndAllOfOthersAfterEveryCrash) {
     const std::uint32_t seed = seedFromEnvironment(1);
-    const std::int64_t operations = numberFromEnvironment("SORTERPANE_OPERATIONS", 5'000);
+    const std::int64_t operations = numberFromEnvironment("SORTERPANE_OPERATIONS", 2'000);
     std::cout << "a walk of " << operations << " operations with SORTERPANE_SEED=" << seed << '\n';
     Walker walker(seed);
     for (long operation = 0; operation < operations; ++operation) {

@@ -185,7 +185,7 @@ void RandomWriters::checkList() {
 }
 
 void RandomWriters::writeAtRandom() {
-    const auto end = std::chrono::steady_clock::now() + (isLong ? 120s : 2s);
+    const auto end = std::chrono::steady_clock::now() + (isLong ? 120s : 1s);
     start(0);
     start(1);
     while (std::chrono::steady_clock::now() < end && !HasFailure()) {

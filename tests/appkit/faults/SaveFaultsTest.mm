@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 namespace {
 
 /// Only one call in so many goes wrong in the short form, another one with each fault.
-constexpr int stride = 199;
+constexpr int stride = 401;
 
 constexpr std::array faultsOfACall{ENOSPC, EIO, EINTR, EMFILE, EACCES, isKilled};
 
