@@ -33,7 +33,9 @@ session_configuration() { # HOME
 # Starts a virtual display with the window manager that GNUstep needs.
 session_display() {
     local number="$session_temp/display" managed="$session_temp/managed"
-    env -u TEMP Xvfb -displayfd 3 -screen 0 1280x1000x24 -nolisten tcp -noreset 3>"$number" >/dev/null 2>&1 &
+    # The library of GLX takes longer to load than all the rest, and nothing draws by it.
+    env -u TEMP Xvfb -displayfd 3 -screen 0 1280x1000x24 -nolisten tcp -extension GLX -noreset 3>"$number" \
+        >/dev/null 2>&1 &
     session_server=$!
     session_wait "the virtual display" test -s "$number"
     DISPLAY=:$(cat "$number")

@@ -121,6 +121,7 @@ class Session:
     def _start_display(self):
         reader, writer = os.pipe()
         command = ["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x1000x24", "-nolisten", "tcp",
+                   "-extension", "GLX",  # whose library takes longer to load than all the rest
                    "-noreset"]  # else the server starts over whenever its last client goes
         self.server = subprocess.Popen(command, pass_fds=[writer], stdout=subprocess.DEVNULL,
                                        stderr=subprocess.DEVNULL)
