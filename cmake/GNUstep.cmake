@@ -25,6 +25,8 @@ if(NOT flags OR NOT libraries)
 endif()
 execute_process(COMMAND ${GNUSTEP_CONFIG} --variable=GNUSTEP_SYSTEM_HEADERS
                 OUTPUT_VARIABLE GNUSTEP_HEADERS OUTPUT_STRIP_TRAILING_WHITESPACE)
+execute_process(COMMAND ${GNUSTEP_CONFIG} --variable=GNUSTEP_CONFIG_FILE
+                OUTPUT_VARIABLE GNUSTEP_CONFIGURATION OUTPUT_STRIP_TRAILING_WHITESPACE)
 separate_arguments(flags)
 separate_arguments(libraries)
 

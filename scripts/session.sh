@@ -23,9 +23,10 @@ session_start() { # HOME
 
 # GNUstep's configuration with the folders of that home.
 session_configuration() { # HOME
-    local folder=${1//\\/\\\\}
+    local folder=${1//\\/\\\\} installed
+    installed=$(gnustep-config --variable=GNUSTEP_CONFIG_FILE)
     folder=${folder//\"/\\\"}/GNUstep
-    grep -v -E '^GNUSTEP_USER_(CONFIG_FILE|DEFAULTS_DIR|DIR_LIBRARY|DIR_APPS)=' /etc/GNUstep/GNUstep.conf
+    grep -v -E '^GNUSTEP_USER_(CONFIG_FILE|DEFAULTS_DIR|DIR_LIBRARY|DIR_APPS)=' "$installed"
     printf '%s="%s"\n' GNUSTEP_USER_CONFIG_FILE "" GNUSTEP_USER_DEFAULTS_DIR "$folder/Defaults" \
         GNUSTEP_USER_DIR_LIBRARY "$folder/Library" GNUSTEP_USER_DIR_APPS "$folder/Applications"
 }

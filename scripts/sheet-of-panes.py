@@ -20,7 +20,7 @@ from controls import Controls  # noqa: E402
 from host import Host  # noqa: E402
 from session import PANE, SOLO_SORTER, Session  # noqa: E402
 
-PROGRAM = "/usr/lib/GNUstep/Applications/SystemPreferences.app/SystemPreferences"
+PROGRAM = os.path.realpath(shutil.which("SystemPreferences"))
 # Ours first; it is left last, because it asks when it is left in this host.
 PANES = ["Sorter", "Modifier keys", "Date & Time", "Fonts", "Defaults", "Themes"]
 HOT_KEYS = {"Sorter.NoteHotKeyCode": 45, "Sorter.NoteHotKeyModifiers": 256,

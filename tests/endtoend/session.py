@@ -64,6 +64,13 @@ def fail(what, seen):
     raise AssertionError(f"waited {LIMIT} s in vain for {what}{there_was}")
 
 
+def configuration_of_all_users():
+    """GNUstep's. The build knows where it is; asking GNUstep each time takes as long as starting a test."""
+    known = os.environ.get("GNUSTEP_CONFIGURATION")
+    return pathlib.Path(known or subprocess.check_output(["gnustep-config", "--variable=GNUSTEP_CONFIG_FILE"],
+                                                         text=True).strip())
+
+
 class Session:
     def __init__(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="qb.", dir="/tmp"))
@@ -111,7 +118,7 @@ class Session:
             "GNUSTEP_USER_DIR_LIBRARY": self.home / "GNUstep/Library",
             "GNUSTEP_USER_DIR_APPS": self.home / "GNUstep/Applications",
         }
-        text = pathlib.Path("/etc/GNUstep/GNUstep.conf").read_text()
+        text = configuration_of_all_users().read_text()
         for name, value in own.items():
             text = re.sub(rf"(?m)^{name}=.*$", f'{name}="{value}"', text)
         configuration = self.folder / "GNUstep.conf"
