@@ -2,6 +2,7 @@
 
 #import "appkit/drawing/CheckBoxImages.h"
 #include "appkit/drawing/Fonts.h"
+#include "appkit/drawing/ScrollerImages.h"
 
 namespace qbsp::appkit {
 
@@ -65,6 +66,7 @@ QBSPHideTable* makeHideTable() {
 }
 
 NSScrollView* makeScrollView(NSTableView* table) {
+    nameScrollerImages();
     NSScrollView* scrollView = [[[NSScrollView alloc] initWithFrame:NSZeroRect] autorelease];
     [scrollView setHasVerticalScroller:YES];
     [scrollView setAutohidesScrollers:YES];
