@@ -54,7 +54,7 @@ private:
     [[nodiscard]] static CGFloat labelHeight(const FormRow& row, const Columns& columns);
     [[nodiscard]] static CGFloat controlTop(const FormRow& row, const Columns& columns);
     [[nodiscard]] static CGFloat heightOf(const FormRow& row, const Columns& columns);
-    [[nodiscard]] CGFloat heightWithoutStretching(CGFloat width) const;
+    [[nodiscard]] CGFloat heightWithoutStretching(CGFloat width, const Columns& columns) const;
     static void placeLabel(const FormRow& row, const Columns& columns, CGFloat y);
     static void place(const FormRow& row, const Columns& columns, CGFloat y, CGFloat height);
 

@@ -47,7 +47,7 @@ NSSize FormLayout::minimumSize(CGFloat width) const {
         if (isVisible(row))
             widest = std::max(widest, widestControl(row));
     const CGFloat wideEnough = std::max(width, widest + 2 * margin);
-    CGFloat height = heightWithoutStretching(wideEnough);
+    CGFloat height = heightWithoutStretching(wideEnough, columns(wideEnough));
     for (const FormRow& row : rows_)
         if (row.stretch == Stretch::widthAndHeight)
             height += row.minimumHeight;
@@ -63,7 +63,8 @@ void FormLayout::layOut(NSSize size) const {
             continue;
         CGFloat height = heightOf(row, formColumns);
         if (row.stretch == Stretch::widthAndHeight)
-            height += std::max(row.minimumHeight, size.height - heightWithoutStretching(size.width));
+            height +=
+                std::max(row.minimumHeight, size.height - heightWithoutStretching(size.width, formColumns));
         place(row, formColumns, y + row.gapAbove, height);
         y += row.gapAbove + height;
     }
@@ -72,8 +73,9 @@ void FormLayout::layOut(NSSize size) const {
 // Labels can wrap between words and most controls cannot wrap, so the controls get their width first.
 FormLayout::Columns FormLayout::columns(CGFloat width) const {
     const CGFloat room = width - 2 * margin - columnGap;
-    const CGFloat labels = std::min(labelWidth(), room - controlWidth());
-    if (labels < widestWordOfLabels())
+    const CGFloat wholeLabels = labelWidth();
+    const CGFloat labels = std::min(wholeLabels, room - controlWidth());
+    if (labels < wholeLabels && labels < widestWordOfLabels())
         return {.areStacked = true,
                 .labelWidth = width - 2 * margin,
                 .controlX = margin,
@@ -136,12 +138,11 @@ CGFloat FormLayout::heightOf(const FormRow& row, const Columns& columns) {
     return std::max(top + controls, columns.areStacked ? 0 : labelHeight(row, columns));
 }
 
-CGFloat FormLayout::heightWithoutStretching(CGFloat width) const {
-    const Columns formColumns = columns(width);
+CGFloat FormLayout::heightWithoutStretching(CGFloat width, const Columns& columns) const {
     CGFloat height = 2 * margin + introductionHeight(width);
     for (const FormRow& row : rows_)
         if (isVisible(row))
-            height += row.gapAbove + heightOf(row, formColumns);
+            height += row.gapAbove + heightOf(row, columns);
     return height;
 }
 

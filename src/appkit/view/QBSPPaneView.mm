@@ -189,6 +189,11 @@ static void chooseFontOf(NSTextField* label) {
     [self layOutForm];
 }
 
+- (void)viewDidMoveToWindow {
+    [super viewDidMoveToWindow];
+    [self layOutForm];
+}
+
 - (void)contentsDidChange {
     [self chooseFonts];
     for (const FormRow& row : form->rows())
@@ -217,7 +222,10 @@ static void chooseFontOf(NSTextField* label) {
     [controls.hideAppsTable chooseHeaderFonts];
 }
 
+// What nobody sees yet is laid out once, when it can be seen.
 - (void)layOutForm {
+    if ([self window] == nil)
+        return;
     const NSSize room = [self bounds].size;
     const NSSize beside = [NSScrollView contentSizeForFrameSize:room
                                           hasHorizontalScroller:NO
