@@ -10,6 +10,8 @@
 #include "appkit/recorder/SystemNotation.h"
 #include "appkit/recorder/ViewListener.h"
 
+#include <tuple>
+
 using namespace qbsp::recorder;
 using qbsp::appkit::nsString;
 using qbsp::appkit::Retained;
@@ -36,15 +38,29 @@ struct QBSPRecorderParts {
 
     ViewListener listener;
     RecorderLogic logic{listener};
-    std::unique_ptr<Keyboard> keyboard = makeKeyboard(listener);
     Retained<NSString*> accessibilityLabel;
     bool isClearPressed = false;
 
-    [[nodiscard]] LayoutLabel layoutLabel() const {
+    /// Made when it is first needed: it may take a connection of its own to the system.
+    [[nodiscard]] Keyboard& keyboard() {
+        if (!madeKeyboard)
+            madeKeyboard = makeKeyboard(listener);
+        return *madeKeyboard;
+    }
+
+    void forgetHeldKeys() const {
+        if (madeKeyboard)
+            madeKeyboard->forgetHeldKeys();
+    }
+
+    [[nodiscard]] LayoutLabel layoutLabel() {
         return [this](VirtualKey key) {
-            return keyboard->label(key);
+            return keyboard().label(key);
         };
     }
+
+private:
+    std::unique_ptr<Keyboard> madeKeyboard;
 };
 
 @implementation QBSPRecorderView
@@ -119,6 +135,8 @@ struct QBSPRecorderParts {
 }
 
 - (BOOL)becomeFirstResponder {
+    // From here on, keys may come, and making a keyboard may change how the system reports them.
+    std::ignore = _parts->keyboard();
     [self setNeedsDisplay:YES];
     return YES;
 }
@@ -153,7 +171,7 @@ struct QBSPRecorderParts {
 
 - (void)stopListening {
     _parts->logic.disarm();
-    _parts->keyboard->forgetHeldKeys();
+    _parts->forgetHeldKeys();
     [self setNeedsDisplay:YES];
 }
 
@@ -187,23 +205,23 @@ struct QBSPRecorderParts {
 }
 
 - (void)keyUp:(NSEvent*)event {
-    _parts->keyboard->observe(event);
+    _parts->keyboard().observe(event);
     [self followModifiers:event];
     [super keyUp:event];
 }
 
 - (void)flagsChanged:(NSEvent*)event {
-    _parts->keyboard->observe(event);
+    _parts->keyboard().observe(event);
     [self followModifiers:event];
     [super flagsChanged:event];
 }
 
 - (void)followModifiers:(NSEvent*)event {
-    _parts->logic.setHeldModifiers(_parts->keyboard->heldModifiers(event));
+    _parts->logic.setHeldModifiers(_parts->keyboard().heldModifiers(event));
 }
 
 - (BOOL)handleKeyDown:(NSEvent*)event {
-    const std::optional<KeyPress> press = _parts->keyboard->press(event);
+    const std::optional<KeyPress> press = _parts->keyboard().press(event);
     if (!press) {
         [self followModifiers:event];
         return YES;

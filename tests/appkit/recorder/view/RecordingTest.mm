@@ -1,6 +1,9 @@
 #include "EventPump.h"
 #include "RecorderViewFixture.h"
 
+#include <filesystem>
+#include <iterator>
+
 namespace qbsp::recorder {
 
 namespace {
@@ -20,6 +23,10 @@ std::string keysOf(CocoaFlags flags) {
     keys += (flags & modifiers::shift) != 0 ? "shift+" : "";
     keys += (flags & modifiers::command) != 0 ? "super+" : "";
     return keys;
+}
+
+auto openDescriptors() {
+    return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
 }
 
 } // namespace
@@ -240,7 +247,21 @@ TEST_F(RecorderView, DoesNotTakeTheRepetitionsOfAKeyForFurtherKeys) {
 }
 
 TEST_F(RecorderView, IsSentNoReleaseBetweenTheRepetitionsOfAHeldKey) {
+    focus(first);
+
     EXPECT_TRUE(isSentNoReleaseOfHeldKeys());
+}
+
+TEST_F(RecorderView, ConnectsToNoKeyboardBeforeItIsUsed) {
+    const auto before = openDescriptors();
+
+    const auto view = appkit::Retained<QBSPRecorderView*>::adopt(
+        [[QBSPRecorderView alloc] initWithFrame:NSMakeRect(0, 0, 200, 26)]);
+    [[window contentView] addSubview:view.get()];
+    [window display];
+    [view.get() removeFromSuperview];
+
+    EXPECT_EQ(openDescriptors(), before);
 }
 
 TEST_F(RecorderView, WorksWithoutADelegate) {
