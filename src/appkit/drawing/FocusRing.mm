@@ -5,21 +5,21 @@ namespace qbsp::appkit {
 namespace {
 
 constexpr CGFloat distance = 1;
-constexpr CGFloat width = 2;
+constexpr CGFloat ringWidth = 2;
 constexpr CGFloat cornerRadius = 4;
 
 } // namespace
 
 NSRect focusRingRect(NSRect focused) {
-    return NSInsetRect(focused, -distance - width, -distance - width);
+    return NSInsetRect(focused, -distance - ringWidth, -distance - ringWidth);
 }
 
 void drawFocusRing(NSRect focused) {
-    const NSRect middle = NSInsetRect(focused, -distance - width / 2, -distance - width / 2);
+    const NSRect middle = NSInsetRect(focused, -distance - ringWidth / 2, -distance - ringWidth / 2);
     NSBezierPath* ring = [NSBezierPath bezierPathWithRoundedRect:middle
                                                          xRadius:cornerRadius
                                                          yRadius:cornerRadius];
-    [ring setLineWidth:width];
+    [ring setLineWidth:ringWidth];
     [[NSColor keyboardFocusIndicatorColor] set];
     [ring stroke];
 }

@@ -12,7 +12,7 @@ namespace {
 
 // The padding of a borderless cell, left and right together.
 constexpr CGFloat cellPadding = 6;
-constexpr CGFloat unlimited = 100000;
+constexpr CGFloat unbounded = 100000;
 
 NSSize measure(NSString* text, NSFont* font, CGFloat width) {
     NSDictionary* attributes = [NSDictionary dictionaryWithObject:font forKey:NSFontAttributeName];
@@ -20,7 +20,7 @@ NSSize measure(NSString* text, NSFont* font, CGFloat width) {
                                                                                     attributes:attributes]);
     const auto layout = Retained<NSLayoutManager*>::adopt([[NSLayoutManager alloc] init]);
     const auto container = Retained<NSTextContainer*>::adopt(
-        [[NSTextContainer alloc] initWithContainerSize:NSMakeSize(width, unlimited)]);
+        [[NSTextContainer alloc] initWithContainerSize:NSMakeSize(width, unbounded)]);
     [container.get() setLineFragmentPadding:0];
     [layout.get() addTextContainer:container.get()];
     [storage.get() addLayoutManager:layout.get()];
@@ -48,7 +48,7 @@ CGFloat widthOfWidestWord(NSTextField* field) {
     NSArray* words = [[field stringValue] componentsSeparatedByString:@" "];
     CGFloat widest = 0;
     for (NSUInteger index = 0; index < [words count]; ++index)
-        widest = std::max(widest, measure([words objectAtIndex:index], [field font], unlimited).width);
+        widest = std::max(widest, measure([words objectAtIndex:index], [field font], unbounded).width);
     return std::ceil(widest) + cellPadding;
 }
 

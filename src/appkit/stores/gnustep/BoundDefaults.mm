@@ -29,7 +29,7 @@ Bound& bound() {
     return bound;
 }
 
-std::filesystem::path hostFile(const StoredLists& lists) {
+std::filesystem::path fileOfHost(const StoredLists& lists) {
     return lists.fileOfDomain(utf8(defaults::ownDomain()));
 }
 
@@ -43,10 +43,10 @@ bool canBeRead(const std::filesystem::path& file) {
 bool filesCanBeRead(const StoredLists& lists) {
     static std::filesystem::file_time_type looked;
     std::error_code failure;
-    const auto changed = std::filesystem::last_write_time(hostFile(lists).parent_path(), failure);
+    const auto changed = std::filesystem::last_write_time(fileOfHost(lists).parent_path(), failure);
     if (!failure && changed == looked)
         return true;
-    const bool canBe = canBeRead(hostFile(lists)) && canBeRead(lists.fileOfDomain(utf8(NSGlobalDomain)));
+    const bool canBe = canBeRead(fileOfHost(lists)) && canBeRead(lists.fileOfDomain(utf8(NSGlobalDomain)));
     if (canBe)
         looked = changed;
     return canBe;
