@@ -56,19 +56,17 @@ bool meansYes(std::string_view text) {
 } // namespace
 
 std::int32_t Value::intValue() const {
-    return std::visit(
-        [](const auto& kind) -> std::int32_t {
-            using T = std::remove_cvref_t<decltype(kind)>;
-            if constexpr (std::is_integral_v<T>)
-                return static_cast<std::int32_t>(kind);
-            else if constexpr (std::is_same_v<T, double>)
-                return low32Bits(kind);
-            else if constexpr (std::is_same_v<T, std::string>)
-                return leadingInteger(kind);
-            else
-                return 0;
-        },
-        kind_);
+    return visit([](const auto& kind) -> std::int32_t {
+        using T = std::remove_cvref_t<decltype(kind)>;
+        if constexpr (std::is_integral_v<T>)
+            return static_cast<std::int32_t>(kind);
+        else if constexpr (std::is_same_v<T, double>)
+            return low32Bits(kind);
+        else if constexpr (std::is_same_v<T, std::string>)
+            return leadingInteger(kind);
+        else
+            return 0;
+    });
 }
 
 std::uint32_t Value::unsignedIntValue() const {
@@ -76,17 +74,15 @@ std::uint32_t Value::unsignedIntValue() const {
 }
 
 bool Value::boolValue() const {
-    return std::visit(
-        [](const auto& kind) -> bool {
-            using T = std::remove_cvref_t<decltype(kind)>;
-            if constexpr (std::is_arithmetic_v<T>)
-                return kind != T{};
-            else if constexpr (std::is_same_v<T, std::string>)
-                return meansYes(kind);
-            else
-                return false;
-        },
-        kind_);
+    return visit([](const auto& kind) -> bool {
+        using T = std::remove_cvref_t<decltype(kind)>;
+        if constexpr (std::is_arithmetic_v<T>)
+            return kind != T{};
+        else if constexpr (std::is_same_v<T, std::string>)
+            return meansYes(kind);
+        else
+            return false;
+    });
 }
 
 Value entry(const Dictionary& dictionary, const std::string& name) {

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "platform/Box.h"
+
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -26,12 +29,16 @@ struct Date {
 using Data = std::vector<std::byte>;
 
 /// A property-list value, or no value. It keeps the kind it was made with, so that what was not edited
-/// is written back as it was read.
+/// is written back as it was read. One that was moved from is no value.
 class Value {
-public:
-    using Kind = std::variant<std::monostate, bool, std::int32_t, std::uint32_t, std::int64_t, std::uint64_t,
-                              double, std::string, Date, Data, Array, Dictionary>;
+    /// A kind larger than a number lies in a box, because each row of a long list has a value.
+    template <class T>
+    using Kept = std::conditional_t<(sizeof(T) > sizeof(double)), Box<T>, T>;
 
+    using Kind = std::variant<std::monostate, bool, std::int32_t, std::uint32_t, std::int64_t, std::uint64_t,
+                              double, Kept<std::string>, Date, Kept<Data>, Kept<Array>, Kept<Dictionary>>;
+
+public:
     Value() = default;
 
     /// A value of any of the kinds; the constraint leaves copying and moving a Value alone.
@@ -41,7 +48,18 @@ public:
     requires(!std::same_as<std::remove_cvref_t<T>, Value> && std::constructible_from<Kind, T>) Value(T&& kind)
         : kind_(std::forward<T>(kind)) {}
 
-    [[nodiscard]] const Kind& kind() const { return kind_; }
+    Value(const Value&) = default;
+
+    Value(Value&& other) noexcept : kind_(std::exchange(other.kind_, {})) {}
+
+    Value& operator=(const Value&) = default;
+
+    Value& operator=(Value&& other) noexcept {
+        kind_ = std::exchange(other.kind_, {});
+        return *this;
+    }
+
+    ~Value() = default;
 
     [[nodiscard]] bool exists() const { return !std::holds_alternative<std::monostate>(kind_); }
 
@@ -59,14 +77,33 @@ public:
     /// The value as this kind, or null when it is of another.
     template <class T>
     [[nodiscard]] const T* as() const {
-        return std::get_if<T>(&kind_);
+        const auto* const kept = std::get_if<Kept<T>>(&kind_);
+        return kept == nullptr ? nullptr : &unboxed(*kept);
+    }
+
+    /// What the visitor returns for the value as its kind; no value is std::monostate.
+    template <class Visitor>
+    auto visit(Visitor&& visitor) const {
+        return std::visit([&](const auto& kept) { return visitor(unboxed(kept)); }, kind_);
     }
 
     friend bool operator==(const Value&, const Value&) = default;
 
 private:
+    template <class T>
+    static const T& unboxed(const T& kept) {
+        return kept;
+    }
+
+    template <class T>
+    static const T& unboxed(const Box<T>& kept) {
+        return *kept;
+    }
+
     Kind kind_;
 };
+
+static_assert(sizeof(Value) <= 16);
 
 /// The entry of that name; no value when there is none.
 [[nodiscard]] Value entry(const Dictionary& dictionary, const std::string& name);

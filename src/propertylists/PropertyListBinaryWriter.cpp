@@ -145,7 +145,7 @@ public:
 private:
     static constexpr unsigned size = 4; ///< of offsets and references, in bytes
 
-    std::uint64_t add(const Value& value) { return std::visit(*this, value.kind()); }
+    std::uint64_t add(const Value& value) { return value.visit(*this); }
 
     std::uint64_t add(std::string object) {
         objects_.push_back(std::move(object));

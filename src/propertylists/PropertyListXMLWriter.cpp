@@ -94,7 +94,7 @@ class XMLWriter {
 public:
     explicit XMLWriter(std::string& xml) : xml_(xml) {}
 
-    void add(const Value& value) { std::visit(*this, value.kind()); }
+    void add(const Value& value) { value.visit(*this); }
 
     void operator()(std::monostate) {}
 

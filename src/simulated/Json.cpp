@@ -73,7 +73,7 @@ Value integerOf(const nlohmann::json& parsed) {
 } // namespace
 
 std::string json(const Value& value) {
-    return std::visit(Printer(), value.kind());
+    return value.visit(Printer());
 }
 
 Value valueOf(const nlohmann::json& parsed) {

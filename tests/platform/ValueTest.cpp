@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <limits>
+#include <type_traits>
+#include <utility>
 
 namespace qbsp::platform {
 
@@ -49,6 +51,64 @@ TEST(Value, IsReturnedOnlyAsItsOwnKind) {
     EXPECT_EQ(value.as<Array>(), nullptr);
     EXPECT_EQ(Value(true).as<std::int32_t>(), nullptr);
     EXPECT_EQ(*Value("text").as<std::string>(), "text");
+    EXPECT_EQ(*Value(1.5).as<double>(), 1.5);
+}
+
+TEST(Value, IsVisitedAsItsKind) {
+    const auto isText = [](const auto& kind) {
+        return std::is_same_v<std::remove_cvref_t<decltype(kind)>, std::string>;
+    };
+
+    EXPECT_TRUE(Value("text").visit(isText));
+    EXPECT_FALSE(Value(1).visit(isText));
+    EXPECT_FALSE(Value().visit(isText));
+}
+
+TEST(Value, IsNotChangedByWhatHappensToACopy) {
+    const Value original = Array{"text", Dictionary{{"a", 1}}};
+    Value copy = original;
+    Value assigned;
+    assigned = original;
+
+    EXPECT_NE(copy.as<Array>(), original.as<Array>());
+    EXPECT_NE(assigned.as<Array>(), original.as<Array>());
+    copy = Array{};
+    assigned = 5;
+
+    EXPECT_EQ(copy, Array{});
+    EXPECT_EQ(assigned, 5);
+    EXPECT_EQ(original, (Array{"text", Dictionary{{"a", 1}}}));
+}
+
+TEST(Value, TakesOverTheContentsOfWhatIsMovedIntoIt) {
+    Value source = Array{1, 2};
+    const auto* const contents = source.as<Array>();
+
+    Value moved = std::move(source);
+    EXPECT_EQ(moved.as<Array>(), contents);
+    Value assigned = "text";
+    assigned = std::move(moved);
+
+    EXPECT_EQ(assigned.as<Array>(), contents);
+}
+
+TEST(Value, IsNoValueOnceMovedFrom) {
+    Value constructedFrom = "text";
+    Value assignedFrom = Array{1};
+    Value target = std::move(constructedFrom);
+    target = std::move(assignedFrom);
+
+    EXPECT_EQ(constructedFrom, Value());
+    EXPECT_EQ(assignedFrom, Value());
+}
+
+TEST(Value, SurvivesBeingMovedIntoItself) {
+    Value value = "text";
+    Value& same = value;
+
+    value = std::move(same);
+
+    EXPECT_EQ(value, "text");
 }
 
 TEST(IntValue, OfABooleanIsZeroOrOne) {

@@ -121,7 +121,7 @@ std::optional<Dictionary> dictionaryFromObject(id object) {
 }
 
 id objectFromValue(const Value& value) {
-    return std::visit(ObjectMaker{}, value.kind());
+    return value.visit(ObjectMaker{});
 }
 
 NSDictionary* objectFromDictionary(const Dictionary& dictionary) {
