@@ -106,11 +106,11 @@ private:
         require(std::ranges::is_sorted(records,
                                        [&](const auto& one, const auto& other) {
                                            return std::is_lt(compareStringUsingSelector(
-                                               *one, *other, stage_.platform.strings));
+                                               one, other, stage_.platform.strings));
                                        }),
                 "the rows are sorted");
         for (std::size_t row = 0; row < records.size(); ++row) {
-            require(shown(row, "1") == Value(records[row]->appName), "a row shows its name");
+            require(shown(row, "1") == Value(records[row].appName), "a row shows its name");
             const Value flag = shown(row, "2");
             require(flag == Value(0) || flag == Value(1), "a row shows on or off");
         }

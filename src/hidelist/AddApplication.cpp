@@ -29,12 +29,11 @@ void QBSPPreferencePane::addApplicationAt(const platform::URL& bundle) {
         return;
     }
     // Adding only puts the application on the list, with its flag off; hiding is the user's next click.
-    const auto added = std::make_shared<HideAppInfo>(HideAppInfo{*name, false});
+    const std::size_t added = tableArray_.add({*name, false});
     // No row can be added to a list that was never loaded. What follows is done all the same: leaving the
     // pane then stores an empty list, and from the next selection on there is one to add to.
-    tableArray_.add(added);
     controls.hideAppsTable->reloadData();
-    showRow(tableArray_.indexOf(added));
+    showRow(added);
     hideAppsUpdated_ = true;
 }
 

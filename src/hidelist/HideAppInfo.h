@@ -6,7 +6,7 @@
 
 namespace qbsp {
 
-/// One row of the hide list. The same record stands for the application as long as the list holds it.
+/// One row of the hide list.
 struct HideAppInfo {
     std::string appName;     ///< the row's identity, as stored in the Sorter's list
     platform::Value hideApp; ///< true: the Sorter hides while the application is in full-screen mode

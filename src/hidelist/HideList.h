@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -21,7 +20,7 @@ namespace qbsp {
 /// rows and rows cannot be added.
 class HideList {
 public:
-    using Records = std::vector<std::shared_ptr<HideAppInfo>>;
+    using Records = std::vector<HideAppInfo>;
 
     /// What a lookup returns when no row has the name.
     static constexpr std::int64_t notFound = -1;
@@ -35,22 +34,23 @@ public:
     [[nodiscard]] const Records& records() const { return records_; }
 
     /// The row's record. Throws std::out_of_range for a row outside the list.
-    [[nodiscard]] HideAppInfo& at(std::size_t row) const;
+    [[nodiscard]] const HideAppInfo& at(std::size_t row) const { return records_.at(row); }
+
+    /// Sets the row's flag. Throws std::out_of_range for a row outside the list.
+    void setHideApp(std::size_t row, bool hideApp) { records_.at(row).hideApp = hideApp; }
 
     /// Replaces all rows by those of the stored list, sorted.
     void load(const platform::Dictionary& hideFlags);
 
-    /// Appends a row and sorts; does nothing while the list does not exist.
-    void add(const std::shared_ptr<HideAppInfo>& record);
+    /// Adds a row at its place in the order, after those with an equal name, and returns it; does nothing
+    /// and returns 0 while the list does not exist.
+    std::size_t add(HideAppInfo record);
 
     /// Removes all rows. A list that existed goes on existing.
     void removeAll();
 
     /// The first row whose name matches, ignoring case, or notFound.
     [[nodiscard]] std::int64_t indexOf(std::string_view appName) const;
-
-    /// The row that holds this record, found by identity; 0 while the list does not exist.
-    [[nodiscard]] std::size_t indexOf(const std::shared_ptr<HideAppInfo>& record) const;
 
     /// The list as it is stored. Of rows with the same name the last counts.
     [[nodiscard]] platform::Dictionary hideFlags() const;

@@ -34,7 +34,7 @@ void QBSPPreferencePane::tableViewSetObjectValueForTableColumnRow(const platform
     // not change the list by them.
     if (!services_.strings.equalIgnoringCase(column.identifier(), flagColumn.text))
         return;
-    tableArray_.at(static_cast<std::size_t>(row)).hideApp = value.intValue() == 1;
+    tableArray_.setHideApp(static_cast<std::size_t>(row), value.intValue() == 1);
     hideAppsUpdated_ = true;
 }
 

@@ -90,8 +90,8 @@ private:
         const auto& rows = stage.pane().tableArray().records();
         ASSERT_EQ(rows.size(), list->size());
         for (const auto& row : rows)
-            EXPECT_EQ(row->hideApp.boolValue(), platform::entry(*list, row->appName).boolValue())
-                << row->appName;
+            EXPECT_EQ(row.hideApp.boolValue(), platform::entry(*list, row.appName).boolValue())
+                << row.appName;
     }
 
     static void reopen(simulated::Store& store) {

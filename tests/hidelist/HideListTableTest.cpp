@@ -153,9 +153,10 @@ TEST_F(HideListTable, ShowsFlagsInEveryColumnButOne) {
 }
 
 TEST_F(HideListTable, ShowsARecordWithoutAFlagAsZero) {
-    pane().tableArray().at(2).hideApp = {};
+    storeHideList(full, platform::Dictionary{{"Mail", {}}});
+    pane().loadHideAppData();
 
-    EXPECT_EQ(valueAt("2", 2), std::int32_t{0});
+    EXPECT_EQ(valueAt("2", 0), std::int32_t{0});
 }
 
 TEST_F(HideListTable, MakesNoPlatformCall) {

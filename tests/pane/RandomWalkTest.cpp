@@ -127,7 +127,7 @@ void expectSorted(Stage& stage) {
     const auto& records = stage.pane().tableArray().records();
     for (std::size_t i = 1; i < records.size(); ++i)
         EXPECT_TRUE(
-            std::is_lteq(compareStringUsingSelector(*records[i - 1], *records[i], stage.platform.strings)));
+            std::is_lteq(compareStringUsingSelector(records[i - 1], records[i], stage.platform.strings)));
 }
 
 void walk(std::uint32_t seed) {

@@ -116,15 +116,6 @@ TEST_F(HideListSave, WritesAnEmptyListWhenNoneWasEverLoaded) {
     EXPECT_EQ(hideList(full), platform::Dictionary{});
 }
 
-TEST_F(HideListSave, KeepsTheLaterFlagOfRowsWithOneName) {
-    tickMail();
-    pane().tableArray().at(1).appName = "Mail";
-
-    pane().willUnselect();
-
-    EXPECT_EQ(hideList(full), (platform::Dictionary{{"Mail", "NO"}}));
-}
-
 TEST_F(HideListSave, KeepsWhatElseTheDomainHolds) {
     tickMail();
     world.domains[full].put("Position", 3.5);
