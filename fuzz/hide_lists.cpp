@@ -98,7 +98,7 @@ private:
         if (row < 0 || std::cmp_greater_equal(row, rowCount()))
             return;
         stage_.editRow(row, hide);
-        expected[stage_.pane().tableArray().at(static_cast<std::size_t>(row)).appName] = hide;
+        expected[std::string(stage_.pane().tableArray().at(static_cast<std::size_t>(row)).appName)] = hide;
     }
 
     void checkRows() {
@@ -110,7 +110,7 @@ private:
                                        }),
                 "the rows are sorted");
         for (std::size_t row = 0; row < records.size(); ++row) {
-            require(shown(row, "1") == Value(records[row].appName), "a row shows its name");
+            require(shown(row, "1") == Value(std::string(records[row].appName)), "a row shows its name");
             const Value flag = shown(row, "2");
             require(flag == Value(0) || flag == Value(1), "a row shows on or off");
         }

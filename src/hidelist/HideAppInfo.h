@@ -2,14 +2,14 @@
 
 #include "platform/Value.h"
 
-#include <string>
+#include <string_view>
 
 namespace qbsp {
 
 /// One row of the hide list.
 struct HideAppInfo {
-    std::string appName;     ///< the row's identity, as stored in the Sorter's list
-    platform::Value hideApp; ///< true: the Sorter hides while the application is in full-screen mode
+    std::string_view appName; ///< the row's identity, as stored in the Sorter's list; kept by the HideList
+    platform::Value hideApp;  ///< true: the Sorter hides while the application is in full-screen mode
 };
 
 } // namespace qbsp

@@ -6,6 +6,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -43,7 +45,7 @@ public:
     void load(const platform::Dictionary& hideFlags);
 
     /// Adds a row at its place in the order, after those with an equal name, and returns it; does nothing
-    /// and returns 0 while the list does not exist.
+    /// and returns 0 while the list does not exist. The name is copied.
     std::size_t add(HideAppInfo record);
 
     /// Removes all rows. A list that existed goes on existing.
@@ -56,11 +58,15 @@ public:
     [[nodiscard]] platform::Dictionary hideFlags() const;
 
 private:
+    std::string_view keep(std::string names);
     void sort();
 
     const platform::StringComparison& strings_;
     bool exists_ = false;
     Records records_;
+    /// What the rows' names lie in, which never moves: one text with all names of the stored list, and one
+    /// for each row that was added. A string in each row would take more than most names.
+    std::vector<std::unique_ptr<const std::string>> names_;
 };
 
 } // namespace qbsp

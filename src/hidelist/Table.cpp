@@ -22,7 +22,7 @@ platform::Value QBSPPreferencePane::tableViewObjectValueForTableColumnRow(const 
     const bool wantsName = services_.strings.equalIgnoringCase(column.identifier(), nameColumn.text);
     const HideAppInfo& info = tableArray_.at(static_cast<std::size_t>(row));
     if (wantsName)
-        return info.appName;
+        return std::string(info.appName);
     return static_cast<std::int32_t>(info.hideApp.boolValue());
 }
 

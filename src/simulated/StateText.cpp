@@ -11,7 +11,7 @@ platform::Value rows(const HideList& list) {
         return {};
     platform::Array all;
     for (const auto& record : list.records())
-        all.emplace_back(platform::Array{record.appName, record.hideApp});
+        all.emplace_back(platform::Array{std::string(record.appName), record.hideApp});
     return all;
 }
 

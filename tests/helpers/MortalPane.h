@@ -90,7 +90,7 @@ private:
         const auto& rows = stage.pane().tableArray().records();
         ASSERT_EQ(rows.size(), list->size());
         for (const auto& row : rows)
-            EXPECT_EQ(row.hideApp.boolValue(), platform::entry(*list, row.appName).boolValue())
+            EXPECT_EQ(row.hideApp.boolValue(), platform::entry(*list, std::string(row.appName)).boolValue())
                 << row.appName;
     }
 

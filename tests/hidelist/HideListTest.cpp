@@ -21,7 +21,7 @@ HideList listOf(const platform::Dictionary& hideFlags) {
 std::vector<std::string> names(const HideList& list) {
     std::vector<std::string> all;
     for (const auto& record : list.records())
-        all.push_back(record.appName);
+        all.emplace_back(record.appName);
     return all;
 }
 
@@ -131,6 +131,15 @@ TEST(HideList, TakesARowAfterThoseWithAnEqualName) {
     EXPECT_EQ(list.add({"mail", false}), 2U);
 
     EXPECT_EQ(names(list), (std::vector<std::string>{"apple", "Mail", "mail", "Zebra"}));
+}
+
+TEST(HideList, KeepsTheNamesAfterThoseItWasGivenAreGone) {
+    HideList list = listOf({{"A name that is longer than a short string", true}});
+
+    list.add({std::string("The name of an application that was added"), false});
+
+    EXPECT_EQ(names(list), (std::vector<std::string>{"A name that is longer than a short string",
+                                                     "The name of an application that was added"}));
 }
 
 TEST(HideList, IsEmptiedButGoesOnExisting) {
