@@ -70,6 +70,12 @@ void replaceByParts(std::u16string& units) {
     }
 }
 
+/// Whether a mark counts once however often it follows itself: from base 1.31 on, as 1.28 does not have it.
+bool repeatedMarksCountOnce() {
+    static const bool once = [@"e\u0301\u0301" caseInsensitiveCompare:@"e\u0301"] == NSOrderedSame;
+    return once;
+}
+
 /// Orders marks that follow each other by their classes, and those of one class by their codes.
 void orderMarks(std::u16string& units) {
     const auto isMark = [](char16_t unit) {
@@ -82,6 +88,8 @@ void orderMarks(std::u16string& units) {
         const auto begin = std::find_if(end, units.end(), isMark);
         end = std::find_if_not(begin, units.end(), isMark);
         std::ranges::sort(begin, end, {}, rank);
+        if (repeatedMarksCountOnce())
+            end = units.erase(std::unique(begin, end), end);
     }
 }
 
