@@ -2,6 +2,7 @@
 
 #include "FileContents.h"
 
+#include <cstdlib>
 #include <fstream>
 
 namespace faults {
@@ -27,6 +28,10 @@ void putOne(const fs::path& path, const std::string& content) {
 }
 
 } // namespace
+
+fs::path home() {
+    return std::getenv("HOME");
+}
 
 Contents contentsOf(const fs::path& folder) {
     Contents contents;

@@ -6,6 +6,9 @@
 
 namespace faults {
 
+/// The session's, where everything is stored.
+[[nodiscard]] std::filesystem::path home();
+
 /// What lies in a folder: the bytes of each file, "-> " and where it leads for each link, nothing for a
 /// folder, by its path below that folder.
 using Contents = std::map<std::string, std::string>;

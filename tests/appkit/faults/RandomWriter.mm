@@ -19,7 +19,7 @@ using namespace qbsp;
 
 namespace {
 
-constexpr platform::ApplicationID sorter{"com.quarrybook.Sorter"};
+constexpr platform::ApplicationID sorterDomain{"com.quarrybook.Sorter"};
 
 class Writer {
 public:
@@ -47,8 +47,8 @@ public:
         // A save that fails may have written the list all the same.
         if (firstTry_ == 0)
             firstTry_ = now();
-        const bool sorterIsSaved = preferences_->synchronize(sorter, platform::PreferencesUser::currentUser,
-                                                             platform::PreferencesHost::anyHost);
+        const bool sorterIsSaved = preferences_->synchronize(
+            sorterDomain, platform::PreferencesUser::currentUser, platform::PreferencesHost::anyHost);
         const bool isSaved = userDefaults_.synchronize() && sorterIsSaved;
         if (isSaved)
             noteSaved();
@@ -66,7 +66,7 @@ private:
 
     void setInSorter(int key) {
         const int value = set(model_.sorter, key);
-        preferences_->setAppValue({keyOf(writer_, key)}, value, sorter);
+        preferences_->setAppValue({keyOf(writer_, key)}, value, sorterDomain);
     }
 
     void setInHost(int key) {
@@ -78,7 +78,7 @@ private:
         unsavedList_ = ++model_.listsSet;
         firstTry_ = 0;
         const std::string name = std::to_string(writer_) + " " + std::to_string(unsavedList_);
-        preferences_->setAppValue({listKey}, platform::Dictionary{{name, true}}, sorter);
+        preferences_->setAppValue({listKey}, platform::Dictionary{{name, true}}, sorterDomain);
     }
 
     // What a writer that was killed had set before is gone.

@@ -35,10 +35,6 @@ namespace {
 constexpr uid_t nobody = 65534;
 constexpr int writers = 2;
 
-fs::path home() {
-    return std::getenv("HOME");
-}
-
 fs::path defaults() {
     return home() / "GNUstep/Defaults";
 }

@@ -28,10 +28,6 @@ constexpr int stride = 401;
 
 constexpr std::array faultsOfACall{ENOSPC, EIO, EINTR, EMFILE, EACCES, isKilled};
 
-fs::path home() {
-    return std::getenv("HOME");
-}
-
 /// The standard error of this process and of its children goes to a file while this exists.
 class Logged {
 public:

@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-NSString* const domain = @"com.quarrybook.Sorter";
+NSString* const sorterDomain = @"com.quarrybook.Sorter";
 
 class LongList : public ShownPane {
 protected:
@@ -44,7 +44,7 @@ protected:
         tick(0, true);
         EXPECT_LT(secondsOf("saved", [&] { unselect(); }), limit);
 
-        NSDictionary* list = stored(hideListKey, domain);
+        NSDictionary* list = stored(hideListKey, sorterDomain);
         EXPECT_EQ([list count], static_cast<NSUInteger>(count));
         EXPECT_TRUE([[list objectForKey:@"Application 0"] boolValue]);
     }

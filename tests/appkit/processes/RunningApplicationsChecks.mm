@@ -11,11 +11,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr platform::BundleIdentifier identifier{"org.example.Quarry"};
+constexpr platform::BundleIdentifier quarryIdentifier{"org.example.Quarry"};
 
 class RunningApplicationsCheck : public RealSession {
 protected:
-    [[nodiscard]] bool runs() const { return applications_.applicationIsRunning(identifier); }
+    [[nodiscard]] bool runs() const { return applications_.applicationIsRunning(quarryIdentifier); }
 
     const fs::path executable = makeApplication("Quarry", "org.example.Quarry");
 

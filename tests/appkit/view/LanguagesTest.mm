@@ -8,7 +8,7 @@ namespace qbsp::appkit {
 
 namespace {
 
-NSString* const longestReason = @"Shift alone is not enough: hold %@, %@ or %@ as well.";
+NSString* const longestReasonKey = @"Shift alone is not enough: hold %@, %@ or %@ as well.";
 
 /// The tables of all languages, by the names of their folders.
 std::vector<std::filesystem::path> tables() {
@@ -35,8 +35,8 @@ protected:
             EXPECT_GE([column width], [[column headerCell] cellSize].width);
         }
         NSString* reason =
-            [translate(longestReason) stringByReplacingOccurrencesOfString:@"%@"
-                                                                withString:translate(@"Super")];
+            [translate(longestReasonKey) stringByReplacingOccurrencesOfString:@"%@"
+                                                                   withString:translate(@"Super")];
         for (QBSPRecorderView* recorder : {controls().noteHotKeyRecorder, controls().clipHotKeyRecorder})
             [[recorder reasonField] setStringValue:reason];
         expectNothingCutOrCovered();
@@ -61,7 +61,7 @@ TEST_F(Languages, HaveRoomForAllOfTheirTexts) {
     for (const auto& table : all) {
         SCOPED_TRACE(table);
         NSDictionary* texts = textsIn(table);
-        ASSERT_NE([texts objectForKey:longestReason], nil);
+        ASSERT_NE([texts objectForKey:longestReasonKey], nil);
         expectRoomFor([texts](NSString* key) { return [texts objectForKey:key]; },
                       {NSMakeSize(480, 356), NSMakeSize(595, 480), NSMakeSize(900, 800)});
     }

@@ -5,9 +5,6 @@ namespace qbsp::recorder {
 
 namespace {
 
-constexpr VirtualKey keyC = 8;
-const KeyCombo commandA{.flags = modifiers::command, .code = 0};
-
 RecorderWindow* otherWindow() {
     static RecorderWindow* const window = [[RecorderWindow alloc] initAtOrigin:NSMakePoint(700, 400)];
     [window fill];

@@ -8,6 +8,10 @@
 
 namespace qbsp::recorder {
 
+inline constexpr VirtualKey keyA = 0;
+inline constexpr VirtualKey keyC = 8;
+inline constexpr KeyCombo commandA{.flags = modifiers::command, .code = keyA};
+
 /// A window on the screen with real recorders in it, worked by a real keyboard and mouse.
 class RecorderView : public testing::Test {
 protected:

@@ -8,12 +8,9 @@ namespace qbsp::recorder {
 
 namespace {
 
-constexpr VirtualKey keyA = 0;
-constexpr VirtualKey keyC = 8;
 constexpr VirtualKey keyF5 = 96;
 const KeyCombo empty{};
 const KeyCombo controlC{.flags = modifiers::control, .code = keyC};
-const KeyCombo commandA{.flags = modifiers::command, .code = keyA};
 
 /// Those modifiers as keys of a keyboard: "ctrl+alt+".
 std::string keysOf(CocoaFlags flags) {
