@@ -34,9 +34,14 @@ class Host:
     def wait_until_idle(self):
         wait_until_idle(self.process.pid)
 
+    def wait_for_end(self):
+        """Waits for the host's end; returns its status."""
+        wait_until(lambda: self.process.poll() is not None, "the end of the host", self.printed)
+        return self.process.returncode
+
     def finish(self):
         """Waits for the host's end; returns the lines that it printed. Fails unless it ended with success."""
-        wait_until(lambda: self.process.poll() is not None, "the end of the host", self.printed)
+        self.wait_for_end()
         assert self.process.returncode == 0, f"the host ended with {self.process.returncode}:\n{self.printed()}"
         return self.lines()
 

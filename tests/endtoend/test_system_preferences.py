@@ -22,7 +22,10 @@ class SystemPreferencesTest(unittest.TestCase):
         self.session.set_domain(SOLO_SORTER, {HIDE_LIST: {"Atlas": False, "Books": True}})
         (self.session.home / "GNUstep/Library/Bundles" / PANE.name).symlink_to(PANE)
         self.controls = Controls(self.session, "hideAppsTable")
-        self.host = Host(self.session, *PROGRAM, "-NSExceptionHandlerMask", "1", *self.controls.options)
+        self.host = self.start()
+
+    def start(self):
+        return Host(self.session, *PROGRAM, "-NSExceptionHandlerMask", "1", *self.controls.options)
 
     def test_shows_and_leaves_the_pane_again_and_again(self):
         for atlas in (True, False, True):
@@ -41,9 +44,8 @@ class SystemPreferencesTest(unittest.TestCase):
         self.controls.wait_for(title="Cancel")
         self.click_cancel(lambda: self.host.process.poll() is not None, "the end of the host")
 
-        self.host.finish()
         self.assertEqual(self.session.domain(SOLO_SORTER)[HIDE_LIST], {"Atlas": True, "Books": True})
-        self.assertEqual(self.unexpected_lines(), [])
+        self.assert_ends_like(self.host_that_showed_no_pane())
 
     def test_lets_the_keyboard_alone_reach_every_control_again_and_again(self):
         self.show_pane()
@@ -87,8 +89,21 @@ class SystemPreferencesTest(unittest.TestCase):
 
     # --- What the host says
 
-    def unexpected_lines(self):
-        return [line for line in self.host.lines() if not any(words in line for words in EXPECTED)]
+    def host_that_showed_no_pane(self):
+        """One that was terminated. In some builds of GNUstep, freeing the menu at the end aborts the program."""
+        host = self.start()
+        self.controls.wait_for(title="Sorter")
+        host.wait_until_idle()
+        host.process.terminate()
+        return host
+
+    def assert_ends_like(self, other):
+        self.assertEqual(self.host.wait_for_end(), other.wait_for_end())
+        self.assertEqual(self.unexpected_lines(), self.unexpected_lines(other))
+
+    def unexpected_lines(self, host=None):
+        lines = (host or self.host).lines()
+        return [line for line in lines if not any(words in line for words in EXPECTED)]
 
 
 if __name__ == "__main__":
