@@ -23,7 +23,7 @@ constexpr std::size_t trailerSize = 32;
 /// number of them. This much memory, in bytes, is all that a list may come to.
 constexpr std::size_t largestList = std::size_t{64} << 20U;
 
-constexpr std::size_t sizeOfValue = sizeof(Value) + 64; // with its place in a container
+constexpr std::size_t sizeOfValue = sizeof(Value) + 104; // with its box and its place in a container
 
 enum Kind : unsigned {
     single = 0,
