@@ -90,7 +90,7 @@ class SystemPreferencesTest(unittest.TestCase):
     # --- What the host says
 
     def host_that_showed_no_pane(self):
-        """One that was terminated. In some builds of GNUstep, freeing the menu at the end aborts the program."""
+        """One that was terminated. In some builds of GNUstep, freeing the menu at the end aborts this host."""
         host = self.start()
         self.controls.wait_for(title="Sorter")
         host.wait_until_idle()
