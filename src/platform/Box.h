@@ -14,7 +14,7 @@ public:
     template <std::convertible_to<T> U>
     Box(U held) : held_(std::make_unique<T>(std::move(held))) {}
 
-    Box(const Box& other) : Box(*other) {}
+    Box(const Box& other) : held_(std::make_unique<T>(*other)) {}
 
     Box(Box&&) noexcept = default;
 
