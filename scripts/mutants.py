@@ -2,7 +2,7 @@
 """Changes the pane's core in one small way at a time, and says which changes the tests do not notice.
 
 The changes are to operators, constants, conditions, returned values and statements in platform/ and the five rooms of
-the pane. For each, the unit tests are built and run, and then the scenarios; a change is killed when one of them fails.
+the pane. For each, the scenarios are played, and then the unit tests run; a change is killed when one of them fails.
 One that does not compile is not counted. A survivor needs a test, or an entry with the reason in
 tests/mutants/survivors.txt. The script fails for one that has neither, and for an entry of a change that is not tried.
 """
