@@ -35,6 +35,7 @@ static NSFont* headerFont() {
 
 - (id)initWithFrame:(NSRect)frame {
     if ((self = [super initWithFrame:frame]) != nil) {
+        [self setAllowsColumnResizing:NO];
         [self addNameColumn];
         [self addFlagColumn];
         qbsp::appkit::setUpHeader(self);

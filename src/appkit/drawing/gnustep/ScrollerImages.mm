@@ -1,6 +1,7 @@
 #include "appkit/drawing/ScrollerImages.h"
 
-#import <AppKit/AppKit.h>
+#import "appkit/drawing/gnustep/QBSPSmallImage.h"
+
 #import <GNUstepGUI/GSTheme.h>
 
 #include <array>
@@ -14,10 +15,17 @@ constexpr std::array names{@"common_ArrowUp",    @"common_ArrowUpH",    @"common
                            @"common_ArrowRight", @"common_ArrowRightH", @"common_Dimple",
                            @"common_DimpleHoriz"};
 
-void nameImage(NSString* name) {
-    NSString* file = [NSBundle pathForLibraryResource:name ofType:@"tiff" inDirectory:@"Images"];
-    NSImage* image = file == nil ? nil : [[[NSImage alloc] initByReferencingFile:file] autorelease];
-    [image setName:name];
+void nameImage(NSString* name, NSArray* libraries) {
+    NSString* place =
+        [@"Images" stringByAppendingPathComponent:[name stringByAppendingPathExtension:@"tiff"]];
+    for (NSUInteger index = 0; index < [libraries count]; ++index) {
+        NSString* file = [[libraries objectAtIndex:index] stringByAppendingPathComponent:place];
+        if (![[NSFileManager defaultManager] isReadableFileAtPath:file])
+            continue;
+        NSImage* image = [[[QBSPSmallImage alloc] initByReferencingFile:file] autorelease];
+        [image setName:name];
+        return;
+    }
 }
 
 } // namespace
@@ -27,8 +35,9 @@ void nameImage(NSString* name) {
 void nameScrollerImages() {
     if ([[GSTheme theme] bundle] != nil)
         return;
+    NSArray* libraries = NSSearchPathForDirectoriesInDomains(NSLibraryDirectory, NSAllDomainsMask, YES);
     for (NSString* name : names)
-        nameImage(name);
+        nameImage(name, libraries);
 }
 
 } // namespace qbsp::appkit
