@@ -60,12 +60,16 @@ def part_lines(repetitions):
 
 
 def sync_lines(repetitions):
-    """What of a save on a disk is the wait for the disk."""
+    """Saves on a disk, and what of them is the wait for it."""
     figures = parts.run("^save.ASCII.*/(100|10000)$", repetitions, parts.ON_DISK)
-    return [line(f"save on a disk, on the clock, {rows:,} rows", pane["real_time"] / 1000,
-                 figures[part, kind, rows, "baseline"]["real_time"] / 1000,
-                 pane["real_time"] / figures[part, kind, rows, "baseline"]["real_time"], None)
-            for (part, kind, rows, whose), pane in figures.items() if whose == "pane"]
+    lines = []
+    for rows in (100, 10_000):
+        saves = [figures["save", "ASCII", rows, whose] for whose in ("pane", "baseline")]
+        pane, baseline = (save["real_time"] / 1000 for save in saves)
+        syncs = (save["sync_time"] / 1000 for save in saves)
+        lines.append(line(f"save on a disk, on the clock, {rows:,} rows", pane, baseline, pane / baseline, None))
+        lines.append(line(f"of that the sync, {rows:,} rows", *syncs, None, None))
+    return lines
 
 
 def opening_lines(repetitions):

@@ -12,7 +12,7 @@ ON_DISK = "/var/tmp"
 
 
 def run(expression, repetitions, homes=IN_MEMORY, shortest=0.03):
-    """Medians by part, kind of list, rows and whose, in microseconds of a processor and on the clock."""
+    """Medians by part, kind of list, rows and whose, in microseconds of a processor, on the clock and in syncs."""
     command = [ROOT / "tests/appkit/in-session", PROGRAM, f"--benchmark_filter={expression}",
                f"--benchmark_min_time={shortest}", f"--benchmark_repetitions={repetitions}",
                "--benchmark_enable_random_interleaving=true", "--benchmark_report_aggregates_only=true",
@@ -24,7 +24,7 @@ def run(expression, repetitions, homes=IN_MEMORY, shortest=0.03):
         if each.get("error_occurred"):
             raise RuntimeError(f"{each['name']}: {each['error_message']}")
         if each.get("aggregate_name", "median") == "median":  # a single run has no aggregates
-            figures[key(each["run_name"])] = {name: each[name] for name in ("cpu_time", "real_time", "bytes_per_row")
+            figures[key(each["run_name"])] = {name: each[name] for name in ("cpu_time", "real_time", "sync_time", "bytes_per_row")
                                               if name in each}
     return figures
 

@@ -1,6 +1,7 @@
 #include "BenchedPane.h"
 #import "FoundationList.h"
 #include "Names.h"
+#include "Syncs.h"
 
 #include "appkit/bridge/Strings.h"
 #include "appkit/services/gnustep/ComparedCharacters.h"
@@ -137,11 +138,29 @@ void findByFoundation(State& state, Kind kind) {
 
 // --- Save
 
+/// Reports what of each iteration was the wait for the disk.
+class SyncTime {
+public:
+    explicit SyncTime(State& state) : state_(state) {}
+
+    ~SyncTime() {
+        state_.counters["sync_time"] = {microsecondsInSyncs() - before_, benchmark::Counter::kAvgIterations};
+    }
+
+    SyncTime(const SyncTime&) = delete;
+    SyncTime& operator=(const SyncTime&) = delete;
+
+private:
+    State& state_;
+    double before_ = microsecondsInSyncs();
+};
+
 void saveInPane(State& state, Kind kind) {
     const Stage stage(kind, state);
     BenchedPane benched;
     benched.pane().loadHideAppData();
     bool hide = false;
+    const SyncTime syncTime(state);
     for (auto _ : state) {
         benched.tickFirst(hide = !hide);
         benched.pane().willUnselect();
@@ -158,6 +177,7 @@ void saveByFoundation(State& state, Kind kind) {
     FoundationRow* first = [rows objectAtIndex:0];
     NSString* failure = nil;
     bool hide = false;
+    const SyncTime syncTime(state);
     for (auto _ : state) {
         [first->hideApp release];
         first->hideApp = [[NSNumber numberWithBool:hide = !hide] retain];
