@@ -52,7 +52,7 @@ bool enlist(const std::string& identifier, const std::string& executable) {
         return false;
     const bool recorded = jobRecord().add(identifier);
     if (!recorded)
-        // It must not start at login while no job tells of it; when even that fails, the entry stays.
+        // It must not start at login while no job is recorded for it; when even that fails, the entry stays.
         std::ignore = remove(identifier);
     return recorded;
 }
