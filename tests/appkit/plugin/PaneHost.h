@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-/// What the host's registrar was told, and what it answers.
+/// What the host's registrar was told, and what it returns.
 struct HostRegistrarState {
     bool isRegistered = false;
     std::vector<std::string> messages;
