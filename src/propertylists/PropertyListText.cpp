@@ -112,11 +112,10 @@ bool exists(std::int64_t month, std::int64_t day, std::int64_t hour, std::int64_
 }
 
 constexpr std::array<std::int16_t, 256> base64Values = [] {
-    constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::array<std::int16_t, 256> values{};
     values.fill(-1);
-    for (std::size_t value = 0; value < digits.size(); ++value)
-        values.at(static_cast<unsigned char>(digits[value])) = static_cast<std::int16_t>(value);
+    for (std::size_t value = 0; value < base64Digits.size(); ++value)
+        values.at(static_cast<unsigned char>(base64Digits[value])) = static_cast<std::int16_t>(value);
     return values;
 }();
 

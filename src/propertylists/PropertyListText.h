@@ -25,6 +25,10 @@ namespace qbsp::propertylists {
 /// The first of these forms; none for a date that has no four-digit year or no whole second.
 [[nodiscard]] std::optional<std::string> textOfDate(const platform::Date& date);
 
+/// The digits of base 64, in the order of their values.
+inline constexpr std::string_view base64Digits =
+    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+
 /// Base 64; blanks anywhere are skipped.
 [[nodiscard]] platform::Value dataFrom(std::string_view text);
 

@@ -68,17 +68,16 @@ void moveBeginning(std::string_view& text, std::string& xml) {
 }
 
 std::string base64(const Data& data) {
-    constexpr std::string_view digits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     const auto byte = [&](std::size_t index) {
         return index < data.size() ? std::to_integer<unsigned>(data[index]) : 0U;
     };
     std::string text;
     for (std::size_t index = 0; index < data.size(); index += 3) {
         const unsigned group = byte(index) << 16 | byte(index + 1) << 8 | byte(index + 2);
-        text += digits[group >> 18];
-        text += digits[group >> 12 & 0x3f];
-        text += index + 1 < data.size() ? digits[group >> 6 & 0x3f] : '=';
-        text += index + 2 < data.size() ? digits[group & 0x3f] : '=';
+        text += base64Digits[group >> 18];
+        text += base64Digits[group >> 12 & 0x3f];
+        text += index + 1 < data.size() ? base64Digits[group >> 6 & 0x3f] : '=';
+        text += index + 2 < data.size() ? base64Digits[group & 0x3f] : '=';
     }
     return text;
 }
