@@ -1,12 +1,15 @@
 #pragma once
 
-#include "appkit/view/FormLayout.h"
 #import "appkit/view/QBSPReasonField.h"
 #include "appkit/view/ViewControls.h"
 
 #import <AppKit/AppKit.h>
 
 #include <memory>
+
+namespace qbsp::appkit {
+class FormLayout;
+}
 
 @class QBSPFormView;
 

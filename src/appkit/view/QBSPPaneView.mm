@@ -3,6 +3,7 @@
 #include "appkit/bridge/Strings.h"
 #include "appkit/drawing/Fonts.h"
 #import "appkit/view/ControlMaking.h"
+#include "appkit/view/FormLayout.h"
 #import "appkit/view/KeyViews.h"
 #import "appkit/view/QBSPFormView.h"
 #import "appkit/view/ViewTexts.h"

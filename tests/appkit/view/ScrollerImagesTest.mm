@@ -49,12 +49,16 @@ NSImage* drawnByGNUstep(NSString* name) {
 }
 
 TEST_F(ScrollerImages, AreDrawnAsGNUstepDrawsThem) {
-    for (NSString* name : {@"common_ArrowUp", @"common_ArrowDownH", @"common_ArrowLeft", @"common_Dimple"}) {
+    for (NSString* name : {@"common_ArrowUp", @"common_ArrowUpH", @"common_ArrowDown", @"common_ArrowDownH",
+                           @"common_ArrowLeft", @"common_ArrowLeftH", @"common_ArrowRight",
+                           @"common_ArrowRightH", @"common_Dimple", @"common_DimpleHoriz"}) {
         SCOPED_TRACE([name UTF8String]);
         NSImage* image = [NSImage imageNamed:name];
         EXPECT_TRUE([image isKindOfClass:NSClassFromString(@"QBSPSmallImage")]);
-        for (const BOOL flipped : {NO, YES})
+        for (const BOOL flipped : {NO, YES}) {
             EXPECT_TRUE([drawn(image, flipped) isEqual:drawn(drawnByGNUstep(name), flipped)]);
+            EXPECT_FALSE([drawn(image, flipped) isEqual:drawn(nil, flipped)]);
+        }
     }
 }
 

@@ -23,7 +23,8 @@ static void drawPixels(NSBitmapImageRep* bitmap, NSRect rect, bool isFlipped) {
     respectFlipped:(BOOL)respectsFlipped
              hints:(NSDictionary*)hints {
     NSImageRep* best = [self bestRepresentationForDevice:nil];
-    if (fraction == 1 && respectsFlipped && [best isKindOfClass:[NSBitmapImageRep class]])
+    const bool isOrdinary = operation == NSCompositeSourceOver && fraction == 1 && respectsFlipped;
+    if (isOrdinary && NSIsEmptyRect(source) && [best isKindOfClass:[NSBitmapImageRep class]])
         drawPixels(static_cast<NSBitmapImageRep*>(best), rect, [[NSView focusView] isFlipped]);
     else
         [super drawInRect:rect

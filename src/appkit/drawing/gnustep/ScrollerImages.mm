@@ -5,6 +5,7 @@
 #import <GNUstepGUI/GSTheme.h>
 
 #include <array>
+#include <utility>
 
 namespace qbsp::appkit {
 
@@ -33,7 +34,8 @@ void nameImage(NSString* name, NSArray* libraries) {
 // A scroller asks for these images by name, and GNUstep looks for each as a file of every type that it can
 // read, in hundreds of places, before it finds the one that it has itself. A theme has images of its own.
 void nameScrollerImages() {
-    if ([[GSTheme theme] bundle] != nil)
+    static bool haveNames = false;
+    if (std::exchange(haveNames, true) || [[GSTheme theme] bundle] != nil)
         return;
     NSArray* libraries = NSSearchPathForDirectoriesInDomains(NSLibraryDirectory, NSAllDomainsMask, YES);
     for (NSString* name : names)
