@@ -140,6 +140,10 @@ TEST_F(Layout, GivesTheListsHeaderTheSystemsColorOfHeaders) {
                 [expected redComponent], 0.01);
 }
 
+TEST_F(Layout, HasNoCursorThatOffersToResizeTheListsColumns) {
+    EXPECT_FALSE([controls().hideAppsTable allowsColumnResizing]);
+}
+
 TEST_F(Layout, FollowsTheSizeOfType) {
     CGFloat lastRow = 0;
     CGFloat lastRecorder = 0;
