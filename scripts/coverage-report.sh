@@ -3,6 +3,9 @@
 # and as BUILD/report/index.html. Fails unless they are all of the core's, and nearly all of the shell's lines.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/scripts/usage.sh"
+help_or_refuse "$@"
+[ $# -eq 1 ] || refuse "takes a build folder"
 build=$1
 core_rooms=$(sed -n 's/ core:.*//p' "$build/rooms.txt" | paste -sd '|')
 branches=(--exclude-throw-branches --exclude-unreachable-branches)

@@ -4,6 +4,9 @@
 # found is kept in build/fuzz/found, and the last lines of its log are printed.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/scripts/usage.sh"
+help_or_refuse "$@"
+[ $# -eq 1 ] || refuse "takes the number of seconds for each fuzzer"
 . "$root/scripts/build.sh"
 seconds=$1
 build_preset fuzz

@@ -2,6 +2,8 @@
 # icons.sh: makes resources/SorterPane.tiff, the icon in all sizes that hosts show, from resources/SorterPane.svg. Needs
 # the Debian packages librsvg2-bin and imagemagick. To be run after the drawing was changed; the result is committed.
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/usage.sh"
+help_or_refuse "$@"
 resources=$(cd "$(dirname "${BASH_SOURCE[0]}")/../resources" && pwd)
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT

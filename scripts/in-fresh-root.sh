@@ -4,14 +4,12 @@
 # uses. Fails when either fails.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/scripts/usage.sh"
+program="test --in"
+help_or_refuse "$@"
 project=/root/sorter-pane # in the fresh root
 fresh=
 processes=
-
-refuse() { # WHY
-    echo "test --in: $1" >&2
-    exit 2
-}
 
 # The archive of Debian's releases, among those that apt uses here.
 archive() {

@@ -4,6 +4,8 @@
 # an independent host.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/scripts/usage.sh"
+help_or_refuse "$@"
 . "$root/scripts/session.sh"
 . "$root/scripts/colors.sh"
 

@@ -4,6 +4,8 @@
 # it runs in), tests (of the application), pictures (of the pane), coverage, tidy, fuzzing, mutants, benchmark, package
 # (the Debian package and the checks of it), roots (fresh root file systems of other releases and architectures).
 set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/usage.sh"
+help_or_refuse "$@"
 
 drawing='^gnustep-back[0-9.]+-cairo$'
 
@@ -30,10 +32,7 @@ packages_for() {
     pictures) echo imagemagick ;;
     benchmark) echo libbenchmark-dev gnuplot-nox python3 systempreferences.app ;;
     package) echo dpkg-dev file lintian appstream gzip xz-utils ;;
-    *)
-        echo "setup.sh: unknown purpose '$1'" >&2
-        exit 2
-        ;;
+    *) refuse "unknown purpose '$1'" ;;
     esac
 }
 
@@ -46,6 +45,9 @@ is_installed() {
     esac
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
+
+# Where its packages are used, packages_for runs in a shell of its own, which is all that a refusal would end.
+for purpose in "$@"; do packages_for "$purpose" >/dev/null; done
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
     echo "This system is not Debian. What these Debian packages hold must be installed:" >&2

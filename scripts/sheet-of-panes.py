@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""sheet-of-panes.py PICTURE OPTION...: a picture of the pane beside panes of the independent host, SystemPreferences.
+"""A picture of the pane beside panes of the independent host, SystemPreferences.
 
 The host is started with these options, on a virtual display and in a home of its own, with what was built last by ./run
 or ./test.
 """
 
+import argparse
 import os
 import pathlib
 import shutil
@@ -20,7 +21,6 @@ from controls import Controls  # noqa: E402
 from host import Host  # noqa: E402
 from session import PANE, SOLO_SORTER, Session  # noqa: E402
 
-PROGRAM = os.path.realpath(shutil.which("SystemPreferences"))
 # Ours first; it is left last, because it asks when it is left in this host.
 PANES = ["Sorter", "Modifier keys", "Date & Time", "Fonts", "Defaults", "Themes"]
 HOT_KEYS = {"Sorter.NoteHotKeyCode": 45, "Sorter.NoteHotKeyModifiers": 256,
@@ -38,7 +38,8 @@ def show_icons(controls):
 
 def pictures_in(session, options):
     controls = Controls(session)
-    host = Host(session, PROGRAM, *controls.options, *options)
+    program = os.path.realpath(shutil.which("SystemPreferences"))
+    host = Host(session, program, *controls.options, *options)
     pictures = [session.folder / f"{title}.png" for title in PANES]
     for title, picture in reversed(list(zip(PANES, pictures))):
         window = show(controls, title)
@@ -49,15 +50,22 @@ def pictures_in(session, options):
     return pictures
 
 
+def arguments():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("picture", help="the file to write")
+    parser.add_argument("option", nargs=argparse.REMAINDER, help="of the host, such as a color")
+    return parser.parse_args()
+
+
 def main():
-    sheet, *options = sys.argv[1:]
+    given = arguments()
     with Session() as session:
         session.set_domain("SystemPreferences", HOT_KEYS)
         shutil.copy(ROOT / "resources/sample/HideList.plist", session.domain_file(SOLO_SORTER))
         (session.home / "GNUstep/Library/Bundles" / PANE.name).symlink_to(PANE)
-        pictures = pictures_in(session, options)
+        pictures = pictures_in(session, given.option)
         subprocess.run(["montage", *pictures, "-tile", "3x", "-geometry", "+12+12", "-gravity", "north", "-background",
-                        "#606068", sheet], check=True)
+                        "#606068", given.picture], check=True)
 
 
 if __name__ == "__main__":

@@ -3,6 +3,9 @@
 # compile them. Those that were clean and have not changed since, nor any header, are passed over.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/scripts/usage.sh"
+help_or_refuse "$@"
+[ $# -eq 1 ] || refuse "takes a build folder"
 build=$1
 stamps="$build/clean"
 mkdir -p "$stamps"
