@@ -31,9 +31,11 @@ execute_process(COMMAND gzip -9nfk "${made}/changelog")
 install(FILES "${made}/com.quarrybook.SorterPane.metainfo.xml" DESTINATION share/metainfo)
 install(FILES "${packaging}/copyright" "${made}/changelog.gz" "${PROJECT_SOURCE_DIR}/CHANGELOG.md"
               "${PROJECT_SOURCE_DIR}/docs/using.md" "${PROJECT_SOURCE_DIR}/docs/administering.md"
+              "${PROJECT_SOURCE_DIR}/docs/reliability.md"
         DESTINATION ${document_folder})
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pictures" DESTINATION ${document_folder}
-        FILE_PERMISSIONS ${all_read} DIRECTORY_PERMISSIONS ${all_enter})
+# Those that the documents show.
+install(FILES "${PROJECT_SOURCE_DIR}/docs/pictures/pane.png" "${PROJECT_SOURCE_DIR}/docs/pictures/refused.png"
+        DESTINATION ${document_folder}/pictures)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME sorter-pane)
