@@ -2,8 +2,8 @@
 """check_includes.py SRC ROOMS: checks every include of the rooms against the list of rooms that the build wrote.
 
 A room may include headers of the rooms that it uses. The core's rooms may also include the standard library, and
-nothing of the system; no file may leave its room by a path. Prints each wrong include and exits with 1 if there is
-one.
+nothing of the system; no file may leave its room by a path. The folders of support/ are included by their own names.
+Prints each wrong include and exits with 1 if there is one.
 """
 
 import pathlib
@@ -26,13 +26,19 @@ STANDARD = set(
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s*([<"])([^>"]+)[>"]')
 
 
-def complaint(room, kind, name, house):
+def owner(name, source):
+    """The room of the included header, when it is the header of a room."""
+    first = pathlib.PurePath(name).parts[0]
+    return "support" if (source / "support" / first).is_dir() else first
+
+
+def complaint(room, kind, name, house, source):
     if kind == "<":
         outside = house[room].core and name not in STANDARD
         return f"<{name}> is not part of the standard library" if outside else None
     if ".." in pathlib.PurePath(name).parts:
         return f'"{name}" leaves its room by a path'
-    other = pathlib.PurePath(name).parts[0]
+    other = owner(name, source)
     allowed = other == room or other in house[room].uses or other not in house
     return None if allowed else f'"{name}": {room} may not use {other}'
 
@@ -50,7 +56,7 @@ def main():
         for file in files:
             for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), 1):
                 match = INCLUDE.match(line)
-                problem = match and complaint(room, *match.groups(), house)
+                problem = match and complaint(room, *match.groups(), house, source)
                 if problem:
                     print(f"{file}:{number}: {problem}")
                     wrong += 1
