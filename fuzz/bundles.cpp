@@ -2,7 +2,7 @@
 
 #include "Input.h"
 #include "Require.h"
-#include "processes/Bundle.h"
+#include "applications/Bundle.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -44,7 +44,7 @@ private:
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const Folder folder;
     std::ofstream(folder.path() / "Info.plist") << qbsp::fuzz::textOf(data, size);
-    const auto bundle = processes::bundleAt(folder.path());
+    const auto bundle = applications::bundleAt(folder.path());
     require(bundle.has_value(), "a folder is a bundle");
     if (bundle->executable.empty())
         return 0;

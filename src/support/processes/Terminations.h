@@ -1,7 +1,8 @@
 #pragma once
 
-#include "processes/Applications.h"
+#include "processes/Application.h"
 #include "processes/Descriptor.h"
+#include "processes/Process.h"
 
 #include <map>
 #include <string>

@@ -1,6 +1,6 @@
 #import "QBSPSorterRegistrar.h"
 
-#include "processes/Applications.h"
+#include "applications/Applications.h"
 #include "xdg/Autostart.h"
 
 #import <AppKit/AppKit.h>
@@ -26,7 +26,7 @@ struct LoginItem {
 LoginItem loginItemAt(NSURL* url) {
     const std::string bundle = url == nil ? "" : [[url path] UTF8String];
     const std::string name = std::filesystem::path(bundle).stem();
-    return {processes::identifierOfBundle(bundle), {name, processes::executableOfBundle(bundle)}};
+    return {applications::identifierOfBundle(bundle), {name, applications::executableOfBundle(bundle)}};
 }
 
 bool isApplication(const LoginItem& item) {
@@ -85,13 +85,13 @@ std::string sorterBundle() {
 #pragma mark - Process
 
 - (void)showSorterApplication {
-    const auto launched = processes::launchApplication(sorterBundle());
-    if (const auto* reason = std::get_if<processes::Reason>(&launched))
+    const auto launched = applications::launchApplication(sorterBundle());
+    if (const auto* reason = std::get_if<applications::Reason>(&launched))
         NSLog(@"ERROR: Failed to start Sorter: %@", [NSString stringWithUTF8String:reason->c_str()]);
 }
 
 - (void)closeSorterApplication {
-    processes::askApplicationsToQuit(processes::identifierOfBundle(sorterBundle()));
+    applications::askApplicationsToQuit(applications::identifierOfBundle(sorterBundle()));
 }
 
 @end

@@ -1,4 +1,4 @@
-#include "processes/Applications.h"
+#include "applications/Applications.h"
 
 #include "RealSession.h"
 
@@ -23,8 +23,8 @@ protected:
 TEST_F(ApplicationsCheck, HaveTheirOwnExecutablesThoughTheyShareAnIdentifier) {
     const fs::path copy = makeCopy();
 
-    EXPECT_EQ(processes::executableOfBundle(original), original / "Quarry");
-    EXPECT_EQ(processes::executableOfBundle(copy), copy / "Copy of Quarry");
+    EXPECT_EQ(applications::executableOfBundle(original), original / "Quarry");
+    EXPECT_EQ(applications::executableOfBundle(copy), copy / "Copy of Quarry");
 }
 
 TEST_F(ApplicationsCheck, AreFoundRunningEachAtItsOwnPlace) {
@@ -32,16 +32,17 @@ TEST_F(ApplicationsCheck, AreFoundRunningEachAtItsOwnPlace) {
     executeIdle(original / "Quarry");
     executeIdle(copy / "Copy of Quarry");
 
-    ASSERT_TRUE(eventually([] { return processes::runningApplications("org.example.Quarry").size() == 2; }));
-    const auto running = processes::runningApplications("org.example.Quarry");
+    ASSERT_TRUE(
+        eventually([] { return applications::runningApplications("org.example.Quarry").size() == 2; }));
+    const auto running = applications::runningApplications("org.example.Quarry");
     EXPECT_NE(running[0].bundle, running[1].bundle);
 }
 
 TEST_F(ApplicationsCheck, AreReadAsTheyAreNow) {
-    ASSERT_EQ(processes::identifierOfBundle(original), "org.example.Quarry");
+    ASSERT_EQ(applications::identifierOfBundle(original), "org.example.Quarry");
 
     fs::remove_all(original);
     std::ignore = makeApplication("Quarry", "org.example.Newer");
 
-    EXPECT_EQ(processes::identifierOfBundle(original), "org.example.Newer");
+    EXPECT_EQ(applications::identifierOfBundle(original), "org.example.Newer");
 }

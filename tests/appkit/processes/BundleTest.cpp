@@ -1,4 +1,4 @@
-#include "processes/Bundle.h"
+#include "applications/Bundle.h"
 
 #include "TemporaryFolder.h"
 #include "UnreadableLists.h"
@@ -9,7 +9,7 @@
 #include <string>
 #include <sys/stat.h>
 
-namespace processes {
+namespace applications {
 
 namespace fs = std::filesystem;
 
@@ -186,4 +186,4 @@ TEST_F(BundleTest, CanBeStartedOnlyByAFileThatMayBeExecuted) {
     EXPECT_FALSE(canBeExecuted(""));
 }
 
-} // namespace processes
+} // namespace applications

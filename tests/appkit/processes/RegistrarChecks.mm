@@ -1,5 +1,5 @@
 #include "RealSession.h"
-#include "processes/Applications.h"
+#include "applications/Applications.h"
 
 #import <Foundation/Foundation.h>
 
@@ -133,16 +133,16 @@ TEST_F(RegistrarCheck, RefusesWhenTheEntryCannotBeWritten) {
 // This program has no application object to ask for its edition.
 TEST_F(RegistrarCheck, StartsAndStopsTheSorterOfTheHostsEdition) {
     const auto soloRuns = [] {
-        return !processes::runningApplications("com.quarrybook.SoloSorter").empty();
+        return !applications::runningApplications("com.quarrybook.SoloSorter").empty();
     };
 
     [registrar showSorterApplication];
     EXPECT_TRUE(eventually(soloRuns));
     [registrar showSorterApplication];
-    EXPECT_EQ(processes::runningApplications("com.quarrybook.SoloSorter").size(), 1U)
+    EXPECT_EQ(applications::runningApplications("com.quarrybook.SoloSorter").size(), 1U)
         << "a Sorter that runs should not be started again";
 
     [registrar closeSorterApplication];
     EXPECT_TRUE(eventually([&] { return !soloRuns(); }));
-    EXPECT_TRUE(processes::runningApplications("com.quarrybook.Sorter").empty());
+    EXPECT_TRUE(applications::runningApplications("com.quarrybook.Sorter").empty());
 }

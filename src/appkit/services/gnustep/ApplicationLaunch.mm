@@ -1,6 +1,7 @@
 #include "appkit/services/ApplicationLaunch.h"
 
-#include "processes/Applications.h"
+#include "applications/Applications.h"
+#include "processes/Process.h"
 
 #include <variant>
 
@@ -22,8 +23,8 @@ private:
 
 // None of the options has a counterpart here: an application decides itself whether to become active.
 platform::LaunchResult launchApplication(const platform::URL& url, platform::LaunchOptions) {
-    const auto launched = processes::launchApplication(url.path());
-    if (const auto* reason = std::get_if<processes::Reason>(&launched))
+    const auto launched = applications::launchApplication(url.path());
+    if (const auto* reason = std::get_if<applications::Reason>(&launched))
         return {nullptr, *reason};
     return {std::make_shared<LaunchedApplication>(std::get<processes::Process>(launched)), std::nullopt};
 }

@@ -1,14 +1,14 @@
 #include "appkit/services/Applications.h"
 
 #import "appkit/services/gnustep/QBSPTerminationReceiver.h"
-#include "processes/Applications.h"
+#include "applications/Applications.h"
 
 #include <string>
 
 namespace qbsp::appkit {
 
 bool AppKitRunningApplications::applicationIsRunning(platform::BundleIdentifier identifier) const {
-    const bool runs = !processes::runningApplications(std::string(identifier.text)).empty();
+    const bool runs = !applications::runningApplications(std::string(identifier.text)).empty();
     if (runs)
         [[NSNotificationCenter defaultCenter] postNotificationName:QBSPApplicationFoundRunning object:nil];
     return runs;
@@ -23,7 +23,7 @@ constexpr std::int32_t kLSApplicationNotFoundErr = -10814;
 
 // There is no database to register with: applications are found by their paths.
 std::int32_t AppKitLaunchServices::registerURL(const platform::URL& url, platform::RegistrationUpdate) {
-    return processes::identifierOfBundle(url.path()).empty() ? kLSApplicationNotFoundErr : noErr;
+    return applications::identifierOfBundle(url.path()).empty() ? kLSApplicationNotFoundErr : noErr;
 }
 
 } // namespace qbsp::appkit

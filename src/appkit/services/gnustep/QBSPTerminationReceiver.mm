@@ -1,7 +1,7 @@
 #import "appkit/services/gnustep/QBSPTerminationReceiver.h"
 
 #include "appkit/bridge/Strings.h"
-#include "processes/Applications.h"
+#include "applications/Applications.h"
 #include "processes/Terminations.h"
 
 #import <AppKit/AppKit.h>
@@ -47,7 +47,7 @@ static std::string identifierIn(NSDictionary* application) {
     const std::string identifier = text(
         [application objectForKey:qbsp::appkit::nsString(qbsp::platform::NSApplicationBundleIdentifier)]);
     return identifier.empty()
-               ? processes::identifierOfBundle(text([application objectForKey:applicationPath]))
+               ? applications::identifierOfBundle(text([application objectForKey:applicationPath]))
                : identifier;
 }
 
@@ -103,7 +103,7 @@ static void* eventOf(const processes::Terminations& terminations) {
 }
 
 - (void)lookAtRunningApplications {
-    parts->terminations.learn(processes::runningApplications());
+    parts->terminations.learn(applications::runningApplications());
 }
 
 - (void)applicationWasFoundRunning {

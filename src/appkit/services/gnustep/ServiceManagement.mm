@@ -2,7 +2,7 @@
 
 #include "appkit/bridge/Strings.h"
 #include "appkit/stores/gnustep/JobRecord.h"
-#include "processes/Applications.h"
+#include "applications/Applications.h"
 #include "xdg/Autostart.h"
 #include "xdg/UserFolders.h"
 
@@ -59,19 +59,19 @@ bool enlist(const std::string& identifier, const std::string& executable) {
 
 void switchOn(const std::string& identifier) {
     const std::string bundle = embeddedApplication(identifier).path();
-    const std::string executable = processes::executableOfBundle(bundle);
+    const std::string executable = applications::executableOfBundle(bundle);
     if (executable.empty() || !enlist(identifier, executable))
         return;
-    if (processes::runningApplications(identifier).empty())
+    if (applications::runningApplications(identifier).empty())
         // Whether it started shows in what runs afterwards.
-        std::ignore = processes::launchApplication(bundle);
+        std::ignore = applications::launchApplication(bundle);
 }
 
 void switchOff(const std::string& identifier) {
     // What cannot be taken back goes on being listed; the application is stopped nevertheless.
     std::ignore = remove(identifier);
     std::ignore = jobRecord().remove(identifier);
-    processes::askApplicationsToQuit(identifier);
+    applications::askApplicationsToQuit(identifier);
 }
 
 } // namespace

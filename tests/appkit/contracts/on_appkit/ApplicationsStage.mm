@@ -1,8 +1,9 @@
 #include "stages/ApplicationsStage.h"
 
 #include "appkit/services/Applications.h"
+#include "applications/Applications.h"
 #include "on_appkit/Eventually.h"
-#include "processes/Applications.h"
+#include "processes/Application.h"
 
 #include <gtest/gtest.h>
 
@@ -61,7 +62,7 @@ public:
     platform::URL nothing() override { return platform::URL::fileURLWithPath(bundle_.string() + ".away"); }
 
     void awaitLaunch() override {
-        EXPECT_TRUE(eventually([] { return !processes::runningApplications(identifier).empty(); }));
+        EXPECT_TRUE(eventually([] { return !applications::runningApplications(identifier).empty(); }));
     }
 
     void start() override {
@@ -72,7 +73,7 @@ public:
 
     void end(const std::vector<std::shared_ptr<platform::TerminationObserver>>&) override {
         // One that was launched just now is found only once its program runs.
-        EXPECT_TRUE(eventually([] { return !processes::runningApplications(identifier).empty(); }));
+        EXPECT_TRUE(eventually([] { return !applications::runningApplications(identifier).empty(); }));
         endAll();
     }
 
@@ -86,7 +87,7 @@ public:
 
 private:
     void endAll() {
-        EXPECT_TRUE(eventually([] { return kill(processes::runningApplications(identifier)); }));
+        EXPECT_TRUE(eventually([] { return kill(applications::runningApplications(identifier)); }));
     }
 
     const fs::path bundle_ = fs::path(std::getenv("HOME")) / "Idle.app";

@@ -1,7 +1,7 @@
-#include "processes/Applications.h"
+#include "applications/Applications.h"
 
+#include "applications/Bundle.h"
 #include "objc/GSTry.h"
-#include "processes/Bundle.h"
 #include "processes/Session.h"
 
 #import <Foundation/Foundation.h>
@@ -11,7 +11,10 @@
 #include <system_error>
 #include <tuple>
 
-namespace processes {
+namespace applications {
+
+using processes::Application;
+using processes::Process;
 
 namespace {
 
@@ -34,7 +37,7 @@ bool isMainExecutable(const std::filesystem::path& executable, const Bundle& bun
 
 /// None when the process executes no application that has an identifier.
 std::optional<Application> applicationOf(const Process& process) {
-    const std::filesystem::path executable = executableOf(process.pid);
+    const std::filesystem::path executable = processes::executableOf(process.pid);
     const std::string path = executable.parent_path();
     const auto bundle = isInBundle(executable) ? bundleAt(path) : std::nullopt;
     if (!bundle || bundle->identifier.empty() || !isMainExecutable(executable, *bundle))
@@ -55,7 +58,7 @@ std::variant<Process, Reason> launchExecutable(const std::string& executable) {
     NSTask* task = nil;
     NSException* failure = objc::tryObjC(
         [&] { task = [NSTask launchedTaskWithLaunchPath:text(executable) arguments:[NSArray array]]; });
-    const auto process = failure == nil ? processOfNumber([task processIdentifier]) : std::nullopt;
+    const auto process = failure == nil ? processes::processOfNumber([task processIdentifier]) : std::nullopt;
     if (process)
         return *process;
     return Reason(executable + " could not be executed" +
@@ -76,8 +79,8 @@ std::string executableOfBundle(const std::string& path) {
 
 std::vector<Application> runningApplications() {
     std::vector<Application> applications;
-    for (const Process& process : processesOfUser(isInBundle))
-        if (const auto application = applicationOf(process); application && sharesSession(process))
+    for (const Process& process : processes::processesOfUser(isInBundle))
+        if (const auto application = applicationOf(process); application && processes::sharesSession(process))
             applications.push_back(*application);
     return applications;
 }
@@ -102,7 +105,7 @@ std::variant<Process, Reason> launchApplication(const std::string& bundle) {
 void askApplicationsToQuit(const std::string& identifier) {
     for (const Application& application : runningApplications(identifier))
         // An application that has just ended need not be asked.
-        std::ignore = askToQuit(application.process);
+        std::ignore = processes::askToQuit(application.process);
 }
 
-} // namespace processes
+} // namespace applications

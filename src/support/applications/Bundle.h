@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-namespace processes {
+namespace applications {
 
 /// A bundle as its files describe it at this moment.
 struct Bundle {
@@ -28,4 +28,4 @@ inline constexpr std::size_t largestDescription = std::size_t{1} << 20U;
 /// Whether the path is that of a file which this user may execute.
 [[nodiscard]] bool canBeExecuted(const std::filesystem::path& file);
 
-} // namespace processes
+} // namespace applications

@@ -1,4 +1,4 @@
-#include "processes/Bundle.h"
+#include "applications/Bundle.h"
 
 #include "files/Reading.h"
 #include "propertylists/PropertyList.h"
@@ -9,7 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace processes {
+namespace applications {
 
 namespace fs = std::filesystem;
 namespace platform = qbsp::platform;
@@ -67,4 +67,4 @@ bool canBeExecuted(const fs::path& file) {
     return fs::is_regular_file(file, failure) && access(file.c_str(), X_OK) == 0;
 }
 
-} // namespace processes
+} // namespace applications
