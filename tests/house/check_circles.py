@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""check_circles.py ROOT: no file of the product may include itself through others.
+"""check_circles.py ROOT: no file of the product may include itself through others, nor may a folder of support/.
 
 A header and the source of the same name count as one, so that a source that reaches back to its includer is a circle
 too. Prints each circle and exits with 1 if there is one.
@@ -11,6 +11,8 @@ import sys
 
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s*"([^"]+)"', re.MULTILINE)
 SUFFIXES = {".h", ".cpp", ".mm", ".m"}
+# A folder of support/, in the name of a unit.
+FOLDER = re.compile(r"src/support/\w+")
 # Where an include in quotes is looked for, after the folder of the file itself.
 PATHS = ("src", "src/support", "standins/common")
 
@@ -43,6 +45,16 @@ def includes(root):
     return graph
 
 
+def folders(graph):
+    """The folders of support/ that each of them includes, itself aside."""
+    result = {}
+    for node, others in graph.items():
+        if folder := FOLDER.match(node):
+            reached = {match[0] for match in map(FOLDER.match, others) if match}
+            result.setdefault(folder[0], set()).update(reached - {folder[0]})
+    return result
+
+
 def circles(graph):
     """The circles that a depth-first search meets, each as a path that ends where it begins."""
     done, path = set(), []
@@ -64,7 +76,7 @@ def circles(graph):
 def main():
     root = pathlib.Path(sys.argv[1]).resolve()
     graph = includes(root)
-    wrong = list(circles(graph))
+    wrong = [*circles(graph), *circles(folders(graph))]
     for circle in wrong:
         print(" -> ".join(circle))
     if len(graph) < 100:
