@@ -1,10 +1,11 @@
 #include "files/Draft.h"
 
 #include "files/Calls.h"
-#include "files/Descriptor.h"
 #include "files/Folders.h"
 #include "files/Leftovers.h"
+#include "files/Opening.h"
 #include "files/Reading.h"
+#include "processes/Descriptor.h"
 
 #include <cstdio>
 #include <fcntl.h>
@@ -25,7 +26,7 @@ std::string beginningOfDrafts(const fs::path& target) {
     return "." + target.filename().string() + ".draft-";
 }
 
-std::error_code writeAll(const Descriptor& file, std::string_view content) {
+std::error_code writeAll(const processes::Descriptor& file, std::string_view content) {
     while (!content.empty()) {
         const auto count =
             uninterrupted([&] { return write(file.number(), content.data(), content.size()); });
@@ -40,7 +41,7 @@ std::error_code writeAll(const Descriptor& file, std::string_view content) {
 
 /// Gives the file the owner, the group and the permissions. A group that the user is not in cannot be given;
 /// the user's own may then do what everybody may.
-std::error_code give(const Descriptor& file, const struct stat& wanted) {
+std::error_code give(const processes::Descriptor& file, const struct stat& wanted) {
     mode_t permissions = wanted.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO);
 
     struct stat status {};
@@ -59,7 +60,7 @@ std::error_code give(const Descriptor& file, const struct stat& wanted) {
 }
 
 /// Gives the file what the one that it replaces has.
-std::error_code admit(const Descriptor& file, const fs::path& replaced) {
+std::error_code admit(const processes::Descriptor& file, const fs::path& replaced) {
     struct stat status {};
 
     const auto failure = attempt([&] { return stat(replaced.c_str(), &status); });
@@ -90,7 +91,7 @@ Draft::~Draft() {
 
 std::error_code Draft::write(std::string_view content) const {
     {
-        const Descriptor file(path_, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, ownerAlone);
+        const auto file = openFile(path_, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, ownerAlone);
         if (!file.isOpen())
             return lastError();
         if (const auto failure = writeAll(file, content))

@@ -1,7 +1,7 @@
 #include "files/Folders.h"
 
 #include "files/Calls.h"
-#include "files/Descriptor.h"
+#include "files/Opening.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -41,7 +41,7 @@ std::error_code makeFolders(const fs::path& folder) {
 }
 
 std::error_code syncFolder(const fs::path& folder) {
-    const Descriptor descriptor(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY);
+    const auto descriptor = openFile(folder.empty() ? "." : folder, O_RDONLY | O_DIRECTORY);
     if (!descriptor.isOpen())
         return lastError();
     const auto failure = attempt([&] { return fsync(descriptor.number()); });

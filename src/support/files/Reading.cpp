@@ -1,7 +1,8 @@
 #include "files/Reading.h"
 
 #include "files/Calls.h"
-#include "files/Descriptor.h"
+#include "files/Opening.h"
+#include "processes/Descriptor.h"
 
 #include <algorithm>
 #include <fcntl.h>
@@ -29,7 +30,7 @@ std::error_code notRegular(mode_t mode) {
 }
 
 // One byte more than the limit shows that there is more; the size alone does not, because files grow.
-Reading readAll(const Descriptor& file, std::size_t size, std::size_t limit) {
+Reading readAll(const processes::Descriptor& file, std::size_t size, std::size_t limit) {
     Reading reading{Outcome::contents, std::string(std::min(size, limit) + 1, '\0'), {}};
     std::string& contents = reading.contents;
     std::size_t end = 0;
@@ -54,7 +55,7 @@ Reading readAll(const Descriptor& file, std::size_t size, std::size_t limit) {
 
 Reading readWhole(const std::filesystem::path& file, std::size_t limit) {
     // A pipe without a writer would make its reader wait.
-    const Descriptor descriptor(file, O_RDONLY | O_NONBLOCK | O_NOCTTY);
+    const auto descriptor = openFile(file, O_RDONLY | O_NONBLOCK | O_NOCTTY);
     if (!descriptor.isOpen())
         return notOpened();
 

@@ -24,6 +24,7 @@ public:
     Descriptor& operator=(const Descriptor&) = delete;
 
     ~Descriptor() {
+        // Never a second time: the number may be another's by then, also when a signal interrupted the call.
         if (isOpen())
             close(number_);
     }
