@@ -1,7 +1,9 @@
 """Tries mutants: a copy of the project in which one file at a time is changed, built and tested."""
 
 import enum
+import os
 import shutil
+import signal
 import subprocess
 import time
 from pathlib import Path
@@ -56,17 +58,19 @@ class Trial:
         return self._succeeds(limit, str(self.build / "tests/unit_tests"), "--gtest_fail_fast", "--gtest_brief=1")
 
     def _succeeds(self, limit: float, *command: str) -> bool:
-        try:
-            return self._run(*command, timeout=limit).returncode == 0
-        except subprocess.TimeoutExpired:
-            return False
+        with subprocess.Popen(command, cwd=self.copy, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                              start_new_session=True) as process:
+            try:
+                return process.wait(limit) == 0
+            except subprocess.TimeoutExpired:
+                os.killpg(process.pid, signal.SIGKILL)  # with what a script has started
+                return False
 
     def _scenarios(self) -> list[Path]:
         return sorted((self.root / "tests/scenarios").glob("*.scenario"))
 
-    def _run(self, *command: str, timeout: float | None = None) -> subprocess.CompletedProcess:
-        return subprocess.run(command, cwd=self.copy, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-                              timeout=timeout, check=False)
+    def _run(self, *command: str) -> subprocess.CompletedProcess:
+        return subprocess.run(command, cwd=self.copy, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
 
     def _must(self, *command: str) -> None:
         result = self._run(*command)
